@@ -1,0 +1,33 @@
+// What the rest of the kernel tells the application about widgets. The application keeps the focus, the
+// active window, popups, modal widgets, grabs and the widget under the pointer.
+#ifndef ZELTK_APPLICATIONPRIVATE_H
+#define ZELTK_APPLICATIONPRIVATE_H
+
+class QObject;
+class QWidget;
+
+namespace zeltk {
+
+// Called when the first styled widget comes into being: the default style then adjusts the application
+// palette (Light, Highlight, HighlightedText). Cheap when it has happened already.
+void ensureStyled();
+
+// QWidget's show and hide, after the window was mapped and before it is unmapped.
+void popupShown(QWidget* popup);
+void popupHidden(QWidget* popup);
+void modalShown(QWidget* modal);
+void modalHidden(QWidget* modal);
+// True if a modal widget or popup keeps input from this widget.
+bool blockedByModal(QWidget* widget);
+
+// A widget is hidden, disabled or dies: focus, grabs and hover move on.
+void widgetHidden(QWidget* widget);
+void widgetDisabled(QWidget* widget);
+void widgetDestroyed(QWidget* widget);
+
+// Removes what is queued for an object that dies.
+void removePostedEvents(QObject* receiver);
+
+} // namespace zeltk
+
+#endif

@@ -1,0 +1,44 @@
+// The one connection to the X server. Everything in this folder draws and talks through it; the folders
+// above see no X type, only plain numbers.
+#ifndef ZELTK_X11_CONNECTION_H
+#define ZELTK_X11_CONNECTION_H
+
+#include <string>
+
+struct _XDisplay;
+
+namespace zeltk {
+namespace x11 {
+
+// A window, pixmap or any other server resource, as Qt::HANDLE shows it.
+typedef unsigned long XId;
+
+// Opens the connection. An empty name means $DISPLAY. Returns false when no server answers.
+bool openConnection(const std::string& displayName);
+void closeConnection();
+bool connected();
+
+// Null while there is no connection.
+_XDisplay* display();
+std::string displayName();
+int screen();
+XId rootWindow();
+int screenWidth();
+int screenHeight();
+// Dots per inch of the screen, rounded.
+int dpiX();
+int dpiY();
+int depth();
+// The descriptor that becomes readable when the server has something to say.
+int connectionFd();
+
+void flush();
+// Waits until the server has carried out everything sent so far.
+void sync();
+// The atom of that name; each is asked of the server once.
+XId atom(const char* name);
+
+} // namespace x11
+} // namespace zeltk
+
+#endif
