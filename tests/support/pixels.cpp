@@ -105,8 +105,9 @@ std::string Pixels::picture(const Legend& legend) const
     std::string text;
     for (int y = 0; y < m_height; ++y) {
         for (int x = 0; x < m_width; ++x) {
-            const auto known = std::find_if(legend.begin(), legend.end(),
-                                            [&](const Legend::value_type& entry) { return entry.second == at(x, y); });
+            const auto known =
+                std::find_if(legend.begin(), legend.end(),
+                             [&](const Legend::value_type& entry) { return entry.second == at(x, y); });
             text += known == legend.end() ? '?' : known->first;
         }
         text += '\n';
@@ -136,8 +137,8 @@ std::string Pixels::differenceFrom(const Pixels& other) const
             }
     if (!different)
         return std::string();
-    std::snprintf(text, sizeof text, "%d pixels differ, first at (%d,%d): %06x instead of %06x", different, firstX,
-                  firstY, at(firstX, firstY), other.at(firstX, firstY));
+    std::snprintf(text, sizeof text, "%d pixels differ, first at (%d,%d): %06x instead of %06x", different,
+                  firstX, firstY, at(firstX, firstY), other.at(firstX, firstY));
     return text;
 }
 

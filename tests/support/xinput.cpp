@@ -3,6 +3,7 @@
 #include <qapplication.h>
 #include <qwidget.h>
 
+#include <X11/XKBlib.h>
 #include <X11/Xlib.h>
 #include <X11/extensions/XTest.h>
 
@@ -60,7 +61,8 @@ void moveTo(QWidget* widget, int x, int y)
     programFirst();
     int rootX = 0, rootY = 0;
     Window child;
-    XTranslateCoordinates(display(), widget->winId(), DefaultRootWindow(display()), x, y, &rootX, &rootY, &child);
+    XTranslateCoordinates(display(), widget->winId(), DefaultRootWindow(display()), x, y, &rootX, &rootY,
+                          &child);
     moveToRoot(rootX, rootY);
 }
 
@@ -137,7 +139,7 @@ void typeText(const std::string& text)
     for (const char letter : text) {
         const KeySym keysym = static_cast<unsigned char>(letter); // Latin-1 keysyms equal their characters
         const KeyCode code = XKeysymToKeycode(display(), keysym);
-        const bool shifted = XKeycodeToKeysym(display(), code, 0) != keysym;
+        const bool shifted = XkbKeycodeToKeysym(display(), code, 0, 0) != keysym;
         typeKey(keysym, shifted ? shift : 0);
     }
 }

@@ -1,0 +1,61 @@
+#include "gallerywindow.h"
+
+#include <qfont.h>
+#include <qlabel.h>
+
+#include <algorithm>
+
+namespace
+{
+const int margin = 12;
+const int headingHeight = 22;
+const int rowWidth = 460;
+const int statusHeight = 26;
+} // namespace
+
+SignalTeller::SignalTeller(QObject* sender, const char* signal, QLabel* line)
+    : QObject(sender), m_text(QString(sender->className()) + " \"" + sender->name() + "\": " + (signal + 1)),
+      m_line(line)
+{
+    connect(sender, signal, this, SLOT(tell()));
+}
+
+void SignalTeller::tell()
+{
+    m_line->setText(m_text);
+}
+
+GalleryWindow::GalleryWindow() : QWidget(0, "gallery"), m_status(new QLabel(this, "status")), m_bottom(margin)
+{
+    setCaption("zelkit gallery");
+    m_status->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+    m_status->setText("Move the pointer over the labels and click them");
+}
+
+QWidget* GalleryWindow::addRow(const char* title, int height)
+{
+    QLabel* const heading = new QLabel(title, this);
+    QFont bold = heading->font();
+    bold.setBold(true);
+    heading->setFont(bold);
+    heading->setGeometry(margin, m_bottom, rowWidth, headingHeight);
+    m_bottom += headingHeight;
+
+    QWidget* const row = new QWidget(this, title);
+    row->setGeometry(margin, m_bottom, rowWidth, height);
+    m_bottom += height + margin;
+    return row;
+}
+
+void GalleryWindow::watch(QWidget* sender, const char* signal)
+{
+    new SignalTeller(sender, signal, m_status);
+    if (std::find(m_stops.begin(), m_stops.end(), sender) == m_stops.end())
+        m_stops.push_back(sender);
+}
+
+void GalleryWindow::finish()
+{
+    m_status->setGeometry(margin, m_bottom, rowWidth, statusHeight);
+    setFixedSize(rowWidth + 2 * margin, m_bottom + statusHeight + margin);
+}

@@ -1,0 +1,52 @@
+#ifndef GALLERYWINDOW_H
+#define GALLERYWINDOW_H
+
+#include <qwidget.h>
+
+#include <vector>
+
+class QLabel;
+
+// Tells the gallery's status line that one certain signal of one certain widget came.
+class SignalTeller : public QObject
+{
+    Q_OBJECT
+
+public:
+    // `signal` is a SIGNAL(...) of the sender, which owns the teller.
+    SignalTeller(QObject* sender, const char* signal, QLabel* line);
+
+private slots:
+    void tell();
+
+private:
+    QString m_text;
+    QLabel* m_line;
+};
+
+// The window of the gallery: a heading and a row for each class, and the status line at the bottom.
+class GalleryWindow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    GalleryWindow();
+
+    // Adds a row of that height (pixels) under the others and returns the area for its widgets.
+    QWidget* addRow(const char* title, int height);
+
+    // Shows the signal on the status line from now on and makes the widget a stop of the tour.
+    void watch(QWidget* sender, const char* signal);
+
+    // Places the status line and fixes the size; call it when all rows are there.
+    void finish();
+
+    const std::vector<QWidget*>& tourStops() const { return m_stops; }
+
+private:
+    QLabel* m_status;
+    std::vector<QWidget*> m_stops;
+    int m_bottom;
+};
+
+#endif

@@ -1,0 +1,115 @@
+#include "tour.h"
+#include "gallerywindow.h"
+
+#include <qapplication.h>
+#include <qpixmap.h>
+
+#include <X11/Xlib.h>
+#include <X11/extensions/XTest.h>
+
+#include <cctype>
+#include <cstdio>
+
+namespace
+{
+
+const int stepMilliseconds = 120;
+
+// "Upside down" becomes "upside-down".
+std::string fileName(const char* objectName)
+{
+    std::string name;
+    for (const char* letter = objectName; *letter; ++letter)
+        name += std::isalnum(static_cast<unsigned char>(*letter))
+                    ? static_cast<char>(std::tolower(static_cast<unsigned char>(*letter)))
+                    : '-';
+    return name;
+}
+
+} // namespace
+
+Tour::Tour(GalleryWindow& gallery, const std::string& folder)
+    : m_gallery(gallery), m_folder(folder), m_next(0), m_acted(false), m_failed(false), m_display(0)
+{
+    m_steps.push_back({&gallery, Rest, "gallery"});
+    for (QWidget* const widget : gallery.tourStops()) {
+        const std::string name = fileName(widget->className()) + "-" + fileName(widget->name());
+        m_steps.push_back({widget, Hover, name + "-hover"});
+        m_steps.push_back({widget, Press, name + "-pressed"});
+        m_steps.push_back({widget, Release, name + "-clicked"});
+    }
+    connect(&m_timer, SIGNAL(timeout()), this, SLOT(nextStep()));
+}
+
+Tour::~Tour()
+{
+    if (m_display)
+        XCloseDisplay(m_display);
+}
+
+bool Tour::start()
+{
+    // The pointer is worked over a connection of our own, as another program would.
+    m_display = XOpenDisplay(0);
+    int event, error, major, minor;
+    if (!m_display || !XTestQueryExtension(m_display, &event, &error, &major, &minor)) {
+        std::fprintf(stderr, "zelkit-gallery: the X server has no XTEST extension, so there is no tour\n");
+        return false;
+    }
+    m_timer.start(stepMilliseconds);
+    return true;
+}
+
+bool Tour::complete() const
+{
+    return !m_failed && m_next == m_steps.size();
+}
+
+// A tick acts, the next one takes the picture of what came of it.
+void Tour::nextStep()
+{
+    const Step& step = m_steps[m_next];
+    if (!m_acted) {
+        act(step);
+        m_acted = true;
+        return;
+    }
+    m_acted = false;
+    m_failed = !takePicture(step.picture);
+    ++m_next;
+    if (m_failed || m_next == m_steps.size())
+        qApp->quit();
+}
+
+void Tour::act(const Step& step)
+{
+    const QPoint centre = step.widget->mapToGlobal(step.widget->rect().center());
+    switch (step.action) {
+    case Rest:
+        XTestFakeMotionEvent(m_display, -1, 0, 0, CurrentTime);
+        break;
+    case Hover:
+        XTestFakeMotionEvent(m_display, -1, centre.x(), centre.y(), CurrentTime);
+        break;
+    case Press:
+        XTestFakeButtonEvent(m_display, 1, True, CurrentTime);
+        break;
+    case Release:
+        XTestFakeButtonEvent(m_display, 1, False, CurrentTime);
+        break;
+    }
+    XSync(m_display, False);
+}
+
+bool Tour::takePicture(const std::string& name)
+{
+    const std::string path = m_folder + "/" + name + ".png";
+    const QPixmap picture = QPixmap::grabWindow(m_gallery.winId());
+    if (!picture.save(path.c_str(), "PNG")) {
+        std::fprintf(stderr, "zelkit-gallery: cannot write %s\n", path.c_str());
+        return false;
+    }
+    std::printf("%s\n", path.c_str());
+    std::fflush(stdout);
+    return true;
+}
