@@ -1,0 +1,118 @@
+// Arrays of plain values, shared explicitly: a change shows in every copy until detach() or copy().
+#ifndef QMEMARRAY_H
+#define QMEMARRAY_H
+
+#include <qglobal.h>
+
+namespace zeltk
+{
+
+struct ArrayData;
+
+// Bytes shared by reference counting: what QMemArray<type> stands on.
+class Q_EXPORT RawArray
+{
+public:
+    RawArray();
+    RawArray(const RawArray& other);
+    ~RawArray();
+    void share(const RawArray& other);
+    bool isNull() const;
+    char* bytes() const;
+    uint length() const;
+    bool resize(uint length);
+    void assign(const char* bytes, uint length);
+    void detach();
+    int references() const;
+
+private:
+    RawArray& operator=(const RawArray&);
+    ArrayData* d;
+};
+
+} // namespace zeltk
+
+template <class type>
+class QMemArray
+{
+public:
+    typedef type* Iterator;
+    typedef const type* ConstIterator;
+    typedef type ValueType;
+
+    QMemArray() {}
+    QMemArray(int size) { resize((uint)size); }
+    QMemArray(const QMemArray<type>& other) : raw(other.raw) {}
+    virtual ~QMemArray() {}
+    QMemArray<type>& operator=(const QMemArray<type>& other) { return assign(other); }
+
+    type* data() const { return (type*)raw.bytes(); }
+    uint nrefs() const { return (uint)raw.references(); }
+    uint size() const { return raw.length() / (uint)sizeof(type); }
+    uint count() const { return size(); }
+    bool isEmpty() const { return size() == 0; }
+    bool isNull() const { return raw.isNull(); }
+    bool resize(uint size) { return raw.resize(size * (uint)sizeof(type)); }
+    bool truncate(uint position) { return resize(position); }
+    bool fill(const type& value, int newSize = -1)
+    {
+        if (newSize >= 0)
+            resize((uint)newSize);
+        for (uint i = 0; i < size(); ++i)
+            data()[i] = value;
+        return true;
+    }
+    virtual void detach() { raw.detach(); }
+    QMemArray<type> copy() const
+    {
+        QMemArray<type> result;
+        return result.duplicate(*this);
+    }
+    QMemArray<type>& assign(const QMemArray<type>& other)
+    {
+        raw.share(other.raw);
+        return *this;
+    }
+    QMemArray<type>& duplicate(const QMemArray<type>& other) { return duplicate(other.data(), other.size()); }
+    QMemArray<type>& duplicate(const type* values, uint size)
+    {
+        raw.assign((const char*)values, size * (uint)sizeof(type));
+        return *this;
+    }
+    int find(const type& value, uint index = 0) const
+    {
+        for (uint i = index; i < size(); ++i)
+            if (data()[i] == value)
+                return (int)i;
+        return -1;
+    }
+    int contains(const type& value) const
+    {
+        int number = 0;
+        for (uint i = 0; i < size(); ++i)
+            number += data()[i] == value;
+        return number;
+    }
+    type& operator[](int index) const { return at((uint)index); }
+    type& at(uint index) const { return data()[index]; }
+    operator const type*() const { return data(); }
+    bool operator==(const QMemArray<type>& other) const
+    {
+        if (size() != other.size())
+            return false;
+        for (uint i = 0; i < size(); ++i)
+            if (!(data()[i] == other.data()[i]))
+                return false;
+        return true;
+    }
+    bool operator!=(const QMemArray<type>& other) const { return !(*this == other); }
+    Iterator begin() { return data(); }
+    Iterator end() { return data() + size(); }
+    ConstIterator begin() const { return data(); }
+    ConstIterator end() const { return data() + size(); }
+
+private:
+    zeltk::RawArray raw;
+};
+
+#endif

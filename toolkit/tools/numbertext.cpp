@@ -1,0 +1,134 @@
+#include "tools/numbertext.h"
+
+#include <cctype>
+#include <cstdio>
+#include <cstdlib>
+#include <limits>
+#include <locale.h>
+
+namespace zeltk
+{
+
+namespace
+{
+
+locale_t plainLocale()
+{
+    static const locale_t locale = newlocale(LC_ALL_MASK, "C", nullptr);
+    return locale;
+}
+
+bool isBlank(char c)
+{
+    return std::isspace(static_cast<uchar>(c)) != 0;
+}
+
+int digitValue(char c)
+{
+    if (c >= '0' && c <= '9')
+        return c - '0';
+    if (c >= 'a' && c <= 'z')
+        return c - 'a' + 10;
+    if (c >= 'A' && c <= 'Z')
+        return c - 'A' + 10;
+    return 99;
+}
+
+// Sign and magnitude of the text; false if it is no number or too long for 64 bits.
+bool parseMagnitude(const std::string& text, int base, bool* negative, Q_ULLONG* magnitude)
+{
+    size_t begin = 0, end = text.size();
+    while (begin < end && isBlank(text[begin]))
+        ++begin;
+    while (end > begin && isBlank(text[end - 1]))
+        --end;
+    *negative = false;
+    if (begin < end && (text[begin] == '-' || text[begin] == '+'))
+        *negative = text[begin++] == '-';
+    if (base == 16 && end - begin > 2 && text[begin] == '0' && (text[begin + 1] | 0x20) == 'x')
+        begin += 2;
+    if (begin == end)
+        return false;
+    const Q_ULLONG largest = std::numeric_limits<Q_ULLONG>::max();
+    *magnitude = 0;
+    for (; begin < end; ++begin) {
+        const int digit = digitValue(text[begin]);
+        if (digit >= base || *magnitude > (largest - static_cast<Q_ULLONG>(digit)) / static_cast<Q_ULLONG>(base))
+            return false;
+        *magnitude = *magnitude * static_cast<Q_ULLONG>(base) + static_cast<Q_ULLONG>(digit);
+    }
+    return true;
+}
+
+} // namespace
+
+std::string numberText(Q_ULLONG number, int base)
+{
+    std::string text;
+    do {
+        text.insert(text.begin(), "0123456789abcdefghijklmnopqrstuvwxyz"[number % static_cast<Q_ULLONG>(base)]);
+        number /= static_cast<Q_ULLONG>(base);
+    } while (number);
+    return text;
+}
+
+std::string numberText(Q_LLONG number, int base)
+{
+    if (number >= 0)
+        return numberText(static_cast<Q_ULLONG>(number), base);
+    return "-" + numberText(0 - static_cast<Q_ULLONG>(number), base);
+}
+
+std::string numberText(double number, char format, int precision)
+{
+    const char pattern[] = {'%', '.', '*', format, '\0'};
+    const locale_t before = uselocale(plainLocale());
+    const int digits = precision < 0 ? 6 : precision;
+    std::string text(static_cast<size_t>(std::snprintf(nullptr, 0, pattern, digits, number)), '\0');
+    std::snprintf(&text[0], text.size() + 1, pattern, digits, number);
+    uselocale(before);
+    return text;
+}
+
+bool parseNumber(const std::string& text, int base, Q_LLONG smallest, Q_LLONG largest, Q_LLONG* number)
+{
+    bool negative;
+    Q_ULLONG magnitude;
+    *number = 0;
+    if (!parseMagnitude(text, base, &negative, &magnitude))
+        return false;
+    const Q_ULLONG limit = negative ? 0 - static_cast<Q_ULLONG>(smallest) : static_cast<Q_ULLONG>(largest);
+    if (magnitude > limit)
+        return false;
+    *number = static_cast<Q_LLONG>(negative ? 0 - magnitude : magnitude);
+    return true;
+}
+
+bool parseNumber(const std::string& text, int base, Q_ULLONG largest, Q_ULLONG* number)
+{
+    bool negative;
+    Q_ULLONG magnitude;
+    *number = 0;
+    if (!parseMagnitude(text, base, &negative, &magnitude) || magnitude > largest || (negative && magnitude))
+        return false;
+    *number = magnitude;
+    return true;
+}
+
+bool parseNumber(const std::string& text, double* number)
+{
+    *number = 0;
+    size_t begin = 0;
+    while (begin < text.size() && isBlank(text[begin]))
+        ++begin;
+    if (begin == text.size() || text.find_first_not_of("0123456789+-.eE", begin) != std::string::npos)
+        return false;
+    char* end = nullptr;
+    const double value = strtod_l(text.c_str() + begin, &end, plainLocale());
+    if (end != text.c_str() + text.size())
+        return false;
+    *number = value;
+    return true;
+}
+
+} // namespace zeltk
