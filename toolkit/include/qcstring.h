@@ -90,7 +90,10 @@ public:
     QCString& setNum(uint number) { return setNum((ulong)number); }
     QCString& setNum(long number);
     QCString& setNum(ulong number);
-    QCString& setNum(float number, char format = 'g', int precision = 6) { return setNum((double)number, format, precision); }
+    QCString& setNum(float number, char format = 'g', int precision = 6)
+    {
+        return setNum((double)number, format, precision);
+    }
     QCString& setNum(double number, char format = 'g', int precision = 6);
 
     operator const char*() const { return data(); }

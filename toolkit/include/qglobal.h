@@ -27,8 +27,11 @@ typedef int Q_INT32;
 typedef unsigned int Q_UINT32;
 typedef long Q_LONG;
 typedef unsigned long Q_ULONG;
-__extension__ typedef long long Q_INT64;
-__extension__ typedef unsigned long long Q_UINT64;
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wlong-long"
+typedef long long Q_INT64;
+typedef unsigned long long Q_UINT64;
+#pragma GCC diagnostic pop
 typedef Q_INT64 Q_LLONG;
 typedef Q_UINT64 Q_ULLONG;
 
@@ -68,8 +71,7 @@ Q_EXPORT void qFatal(const char* format, ...) __attribute__((format(printf, 1, 2
 #ifdef QT_NO_DEBUG
 #define Q_ASSERT(x)
 #else
-#define Q_ASSERT(x)                                                                                          \
-    ((x) ? (void)0 : qWarning("ASSERT: \"%s\" in %s (%d)", #x, __FILE__, __LINE__))
+#define Q_ASSERT(x) ((x) ? (void)0 : qWarning("ASSERT: \"%s\" in %s (%d)", #x, __FILE__, __LINE__))
 #endif
 #endif
 

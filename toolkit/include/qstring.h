@@ -235,7 +235,10 @@ public:
     QString& sprintf(const char* format, ...) __attribute__((format(printf, 2, 3)));
 
     int find(QChar c, int index = 0, bool caseSensitive = true) const;
-    int find(char c, int index = 0, bool caseSensitive = true) const { return find(QChar(c), index, caseSensitive); }
+    int find(char c, int index = 0, bool caseSensitive = true) const
+    {
+        return find(QChar(c), index, caseSensitive);
+    }
     int find(const QString& text, int index = 0, bool caseSensitive = true) const;
     int find(const char* text, int index = 0) const { return find(QString(text), index); }
     int findRev(QChar c, int index = -1, bool caseSensitive = true) const;
@@ -247,7 +250,10 @@ public:
     int findRev(const char* text, int index = -1) const { return findRev(QString(text), index); }
     int contains(QChar c, bool caseSensitive = true) const;
     int contains(char c, bool caseSensitive = true) const { return contains(QChar(c), caseSensitive); }
-    int contains(const char* text, bool caseSensitive = true) const { return contains(QString(text), caseSensitive); }
+    int contains(const char* text, bool caseSensitive = true) const
+    {
+        return contains(QString(text), caseSensitive);
+    }
     int contains(const QString& text, bool caseSensitive = true) const;
 
     QString section(char separator, int start, int end = -1, int flags = SectionDefault) const
@@ -276,7 +282,10 @@ public:
 
     QString& insert(uint index, const QString& text);
     QString& insert(uint index, const char* text) { return insert(index, QString(text)); }
-    QString& insert(uint index, const QChar* text, uint length) { return insert(index, QString(text, length)); }
+    QString& insert(uint index, const QChar* text, uint length)
+    {
+        return insert(index, QString(text, length));
+    }
     QString& insert(uint index, QChar c) { return insert(index, QString(c)); }
     QString& insert(uint index, char c) { return insert(index, QString(QChar(c))); }
     QString& append(char c) { return *this += QChar(c); }
@@ -291,7 +300,10 @@ public:
     QString& prepend(const std::string& text) { return insert(0, QString(text)); }
     QString& remove(uint index, uint length);
     QString& remove(const QString& text) { return replace(text, QString("")); }
-    QString& remove(const QString& text, bool caseSensitive) { return replace(text, QString(""), caseSensitive); }
+    QString& remove(const QString& text, bool caseSensitive)
+    {
+        return replace(text, QString(""), caseSensitive);
+    }
     QString& remove(QChar c) { return replace(c, QString("")); }
     QString& remove(char c) { return replace(QChar(c), QString("")); }
     QString& remove(const char* text) { return replace(QString(text), QString("")); }
@@ -331,7 +343,10 @@ public:
     QString& setNum(ulong number, int base = 10);
     QString& setNum(Q_LLONG number, int base = 10);
     QString& setNum(Q_ULLONG number, int base = 10);
-    QString& setNum(float number, char format = 'g', int precision = 6) { return setNum((double)number, format, precision); }
+    QString& setNum(float number, char format = 'g', int precision = 6)
+    {
+        return setNum((double)number, format, precision);
+    }
     QString& setNum(double number, char format = 'g', int precision = 6);
     static QString number(long number, int base = 10);
     static QString number(ulong number, int base = 10);

@@ -10,7 +10,8 @@
 
 class QPaintDevice;
 
-namespace zeltk {
+namespace zeltk
+{
 
 struct WidgetPaintState {
     QFont font;

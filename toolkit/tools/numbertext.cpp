@@ -53,7 +53,8 @@ bool parseMagnitude(const std::string& text, int base, bool* negative, Q_ULLONG*
     *magnitude = 0;
     for (; begin < end; ++begin) {
         const int digit = digitValue(text[begin]);
-        if (digit >= base || *magnitude > (largest - static_cast<Q_ULLONG>(digit)) / static_cast<Q_ULLONG>(base))
+        if (digit >= base ||
+            *magnitude > (largest - static_cast<Q_ULLONG>(digit)) / static_cast<Q_ULLONG>(base))
             return false;
         *magnitude = *magnitude * static_cast<Q_ULLONG>(base) + static_cast<Q_ULLONG>(digit);
     }
@@ -66,7 +67,8 @@ std::string numberText(Q_ULLONG number, int base)
 {
     std::string text;
     do {
-        text.insert(text.begin(), "0123456789abcdefghijklmnopqrstuvwxyz"[number % static_cast<Q_ULLONG>(base)]);
+        text.insert(text.begin(),
+                    "0123456789abcdefghijklmnopqrstuvwxyz"[number % static_cast<Q_ULLONG>(base)]);
         number /= static_cast<Q_ULLONG>(base);
     } while (number);
     return text;

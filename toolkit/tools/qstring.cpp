@@ -68,17 +68,11 @@ bool localeIsUtf8()
 
 const QString QString::null;
 
-QString::QString() : d(shared(nullData()))
-{
-}
+QString::QString() : d(shared(nullData())) {}
 
-QString::QString(QChar c) : d(newData(std::u16string(1, c.unicode())))
-{
-}
+QString::QString(QChar c) : d(newData(std::u16string(1, c.unicode()))) {}
 
-QString::QString(const QString& other) : d(shared(other.d))
-{
-}
+QString::QString(const QString& other) : d(shared(other.d)) {}
 
 // Up to a zero byte, as a C string.
 QString::QString(const QByteArray& latin1)
@@ -87,17 +81,14 @@ QString::QString(const QByteArray& latin1)
 }
 
 QString::QString(const QChar* unicode, uint length)
-    : d(unicode ? newData(std::u16string(reinterpret_cast<const char16_t*>(unicode), length)) : shared(nullData()))
+    : d(unicode ? newData(std::u16string(reinterpret_cast<const char16_t*>(unicode), length))
+                : shared(nullData()))
 {
 }
 
-QString::QString(const char* latin1) : d(dataFromLatin1(latin1, qstrlen(latin1)))
-{
-}
+QString::QString(const char* latin1) : d(dataFromLatin1(latin1, qstrlen(latin1))) {}
 
-QString::QString(const std::string& latin1) : d(dataFromLatin1(latin1.c_str(), qstrlen(latin1.c_str())))
-{
-}
+QString::QString(const std::string& latin1) : d(dataFromLatin1(latin1.c_str(), qstrlen(latin1.c_str()))) {}
 
 QString::~QString()
 {

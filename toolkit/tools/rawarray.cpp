@@ -13,9 +13,7 @@ struct ArrayData {
 };
 
 // Arrays without data share nothing; a null pointer is an array of its own.
-RawArray::RawArray() : d(nullptr)
-{
-}
+RawArray::RawArray() : d(nullptr) {}
 
 RawArray::RawArray(const RawArray& other) : d(nullptr)
 {

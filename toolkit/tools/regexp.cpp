@@ -1,0 +1,20 @@
+// Patterns for the search of objects by name.
+#include "tools/regexp.h"
+
+#include "tools/unicode.h"
+
+#include <regex>
+
+namespace zeltk
+{
+
+bool matchesRegExp(const QString& pattern, const QString& text)
+{
+    try {
+        return std::regex_search(toUtf8(text), std::regex(toUtf8(pattern)));
+    } catch (const std::regex_error&) {
+        return false;
+    }
+}
+
+} // namespace zeltk
