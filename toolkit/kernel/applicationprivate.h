@@ -27,6 +27,8 @@ void widgetDestroyed(QWidget* widget);
 
 // Removes what is queued for an object that dies.
 void removePostedEvents(QObject* receiver);
+// Removes the news of a child that its parent has not heard of yet.
+void removePostedChildEvents(QObject* parent, QObject* child);
 
 } // namespace zeltk
 

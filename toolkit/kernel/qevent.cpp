@@ -1,0 +1,71 @@
+// The events.
+#include <qevent.h>
+
+namespace
+{
+
+QFocusEvent::Reason focusReason = QFocusEvent::Other;
+QFocusEvent::Reason focusReasonBefore = QFocusEvent::Other;
+
+// The state bit of a modifier key; 0 for other keys.
+int modifierOf(int key)
+{
+    switch (key) {
+    case Qt::Key_Shift:
+        return Qt::ShiftButton;
+    case Qt::Key_Control:
+        return Qt::ControlButton;
+    case Qt::Key_Alt:
+        return Qt::AltButton;
+    case Qt::Key_Meta:
+        return Qt::MetaButton;
+    default:
+        return 0;
+    }
+}
+
+} // namespace
+
+QEvent::~QEvent()
+{
+}
+
+QMouseEvent::QMouseEvent(Type type, const QPoint& pos, int button, int state)
+    : QEvent(type), p(pos), b((ButtonState)button), s((ushort)state), accepted(true)
+{
+}
+
+Qt::ButtonState QMouseEvent::stateAfter() const
+{
+    if (type() == MouseButtonRelease)
+        return ButtonState(s & ~b);
+    return ButtonState(s | b);
+}
+
+QWheelEvent::QWheelEvent(const QPoint& pos, int delta, int state, Orientation orientation)
+    : QEvent(Wheel), p(pos), d(delta), s((ushort)state), accepted(true), o(orientation)
+{
+}
+
+Qt::ButtonState QKeyEvent::stateAfter() const
+{
+    if (type() == KeyPress)
+        return ButtonState(s | modifierOf(k));
+    return ButtonState(s & ~modifierOf(k));
+}
+
+QFocusEvent::Reason QFocusEvent::reason()
+{
+    return focusReason;
+}
+
+void QFocusEvent::setReason(Reason reason)
+{
+    focusReasonBefore = focusReason;
+    focusReason = reason;
+}
+
+void QFocusEvent::resetReason()
+{
+    focusReason = focusReasonBefore;
+}
