@@ -44,14 +44,14 @@ public:
     void setHorData(SizeType type) { data = (data & ~(Q_UINT32)HMask) | type; }
     void setVerData(SizeType type) { data = (data & ~(Q_UINT32)VMask) | (Q_UINT32)type << HSize; }
 
-    bool mayShrinkHorizontally() const { return (horData() & MayShrink) || horData() == Ignored; }
-    bool mayShrinkVertically() const { return (verData() & MayShrink) || verData() == Ignored; }
-    bool mayGrowHorizontally() const { return (horData() & MayGrow) || horData() == Ignored; }
-    bool mayGrowVertically() const { return (verData() & MayGrow) || verData() == Ignored; }
+    bool mayShrinkHorizontally() const { return ((int)horData() & MayShrink) || horData() == Ignored; }
+    bool mayShrinkVertically() const { return ((int)verData() & MayShrink) || verData() == Ignored; }
+    bool mayGrowHorizontally() const { return ((int)horData() & MayGrow) || horData() == Ignored; }
+    bool mayGrowVertically() const { return ((int)verData() & MayGrow) || verData() == Ignored; }
     ExpandData expanding() const
     {
-        return (ExpandData)((horData() & ExpMask ? Horizontally : 0) |
-                            (verData() & ExpMask ? Vertically : 0));
+        return (ExpandData)(((int)horData() & ExpMask ? Horizontally : 0) |
+                            ((int)verData() & ExpMask ? Vertically : 0));
     }
 
     //! The best height depends on the width.
