@@ -303,8 +303,6 @@ protected:
     virtual void fontChange(const QFont& oldFont);
     virtual void windowActivationChange(bool wasActive);
 
-    int metric(int what) const;
-
     WState getWState() const;
     void setWState(WState states);
     void clearWState(WState states);
@@ -331,7 +329,7 @@ private:
 
     friend class QApplication;
     friend struct zeltk::WidgetAccess;
-    zeltk::WidgetData* w;
+    zeltk::WidgetData* wd;
 
     QWidget(const QWidget&);
     QWidget& operator=(const QWidget&);

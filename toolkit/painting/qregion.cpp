@@ -1,10 +1,12 @@
 // QRegion.
 #include <qregion.h>
 
+#include <qbitmap.h>
 #include <qpointarray.h>
 
 #include "painting/polygonrows.h"
 #include "painting/regiondata.h"
+#include "x11/pixmap.h"
 
 #include <algorithm>
 
@@ -171,4 +173,25 @@ QMemArray<QRect> QRegion::rects() const
 bool QRegion::operator==(const QRegion& other) const
 {
     return d == other.d || d->bands == other.d->bands;
+}
+
+QRegion::QRegion(const QBitmap& bitmap) : d(emptyData())
+{
+    if (bitmap.isNull())
+        return;
+    const std::vector<std::uint32_t> bits = zeltk::x11::readPixels(bitmap.handle(), true, 0, 0, bitmap.width(), bitmap.height());
+    zeltk::Bands bands;
+    for (int y = 0; y < bitmap.height() && !bits.empty(); ++y) {
+        zeltk::Spans spans;
+        for (int x = 0; x < bitmap.width(); ++x) {
+            if (!bits[static_cast<size_t>(y * bitmap.width() + x)])
+                continue;
+            if (!spans.empty() && spans.back().behind == x)
+                ++spans.back().behind;
+            else
+                spans.push_back({x, x + 1});
+        }
+        zeltk::appendRows(&bands, y, y + 1, spans);
+    }
+    *this = QRegion(newData(std::move(bands)));
 }

@@ -9,6 +9,7 @@
 #include <qregion.h>
 
 class QPaintDevice;
+class QWidget;
 
 namespace zeltk
 {
@@ -21,10 +22,11 @@ struct WidgetPaintState {
     bool unclipped;     // WPaintUnclipped: children are painted over
     bool painting;      // a paint event is being delivered to this widget
     QRegion eventClip;  // its region, in widget coordinates, when painting
+    bool wholeWidget;   // the region is all of the widget, so that clipping is not needed
 };
 
-// Fills in the state of a widget device. The kernel sets this once; it is null before.
-typedef void (*WidgetPaintStateFunction)(const QPaintDevice* widget, WidgetPaintState* state);
+// Fills in the state of a widget, which is given as the one or the other; the kernel sets this, it is null before.
+typedef void (*WidgetPaintStateFunction)(const QPaintDevice* device, const QWidget* widget, WidgetPaintState* state);
 extern WidgetPaintStateFunction widgetPaintState;
 
 } // namespace zeltk

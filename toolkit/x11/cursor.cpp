@@ -45,9 +45,15 @@ XId emptyCursor()
     return cursor;
 }
 
+// They end with the connection that they were made on.
 std::map<int, XId>& made()
 {
     static std::map<int, XId> cursors;
+    static Display* connection = nullptr;
+    if (connection != display()) {
+        connection = display();
+        cursors.clear();
+    }
     return cursors;
 }
 

@@ -1,0 +1,29 @@
+// What was found for a font.
+#ifndef QFONTINFO_H
+#define QFONTINFO_H
+
+#include <qfont.h>
+
+class Q_EXPORT QFontInfo
+{
+public:
+    QFontInfo(const QFont& font);
+
+    QString family() const;
+    int pointSize() const;
+    int pixelSize() const;
+    bool italic() const { return wanted.italic(); }
+    int weight() const;
+    bool bold() const { return weight() > QFont::Normal; }
+    bool underline() const { return wanted.underline(); }
+    bool overline() const { return wanted.overline(); }
+    bool strikeOut() const { return wanted.strikeOut(); }
+    bool fixedPitch() const;
+    QFont::StyleHint styleHint() const { return wanted.styleHint(); }
+    bool exactMatch() const;
+
+private:
+    QFont wanted;
+};
+
+#endif

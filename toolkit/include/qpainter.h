@@ -1,0 +1,202 @@
+// Drawing.
+#ifndef QPAINTER_H
+#define QPAINTER_H
+
+#include <qbrush.h>
+#include <qfont.h>
+#include <qfontinfo.h>
+#include <qfontmetrics.h>
+#include <qpen.h>
+#include <qpixmap.h>
+#include <qpointarray.h>
+#include <qrect.h>
+#include <qregion.h>
+#include <qwmatrix.h>
+
+class QImage;
+class QWidget;
+
+namespace zeltk
+{
+struct PainterData;
+}
+
+/*!
+ * \brief Draws on a widget or a pixmap.
+ *
+ * On a widget it begins with the widget's font and colours; inside a paint event it is clipped to the event's region.
+ * Rectangles cover exactly their width and height, the outline included; lines include both ends. Negative widths and
+ * heights are mirrored.
+ */
+class Q_EXPORT QPainter : public Qt
+{
+public:
+    enum CoordinateMode { CoordDevice, CoordPainter };
+
+    QPainter();
+    QPainter(const QPaintDevice* device, bool unclipped = false);
+    //! Takes pen, background and font from the widget.
+    QPainter(const QPaintDevice* device, const QWidget* copyAttributes, bool unclipped = false);
+    ~QPainter();
+
+    bool begin(const QPaintDevice* device, bool unclipped = false);
+    bool begin(const QPaintDevice* device, const QWidget* copyAttributes, bool unclipped = false);
+    bool end();
+    QPaintDevice* device() const;
+    bool isActive() const;
+    void flush();
+    void save();
+    void restore();
+
+    QFontMetrics fontMetrics() const;
+    QFontInfo fontInfo() const;
+    const QFont& font() const;
+    void setFont(const QFont& font);
+    const QPen& pen() const;
+    void setPen(const QPen& pen);
+    void setPen(PenStyle style);
+    void setPen(const QColor& color);
+    const QBrush& brush() const;
+    void setBrush(const QBrush& brush);
+    void setBrush(BrushStyle style);
+    void setBrush(const QColor& color);
+    QPoint pos() const;
+
+    const QColor& backgroundColor() const;
+    void setBackgroundColor(const QColor& color);
+    BGMode backgroundMode() const;
+    void setBackgroundMode(BGMode mode);
+    RasterOp rasterOp() const;
+    void setRasterOp(RasterOp op);
+    const QPoint& brushOrigin() const;
+    void setBrushOrigin(int x, int y);
+    void setBrushOrigin(const QPoint& p) { setBrushOrigin(p.x(), p.y()); }
+
+    bool hasWorldXForm() const;
+    void setWorldXForm(bool enable);
+    const QWMatrix& worldMatrix() const;
+    void setWorldMatrix(const QWMatrix& matrix, bool combine = false);
+    void translate(double dx, double dy);
+    void scale(double sx, double sy);
+    void shear(double sh, double sv);
+    void rotate(double degrees);
+    void resetXForm();
+    QPoint xForm(const QPoint& p) const;
+    QRect xForm(const QRect& rect) const;
+    QPointArray xForm(const QPointArray& points) const;
+
+    void setClipping(bool enable);
+    bool hasClipping() const;
+    QRegion clipRegion(CoordinateMode mode = CoordDevice) const;
+    void setClipRect(const QRect& rect, CoordinateMode mode = CoordDevice);
+    void setClipRect(int x, int y, int w, int h, CoordinateMode mode = CoordDevice)
+    {
+        setClipRect(QRect(x, y, w, h), mode);
+    }
+    void setClipRegion(const QRegion& region, CoordinateMode mode = CoordDevice);
+
+    void drawPoint(int x, int y);
+    void drawPoint(const QPoint& p) { drawPoint(p.x(), p.y()); }
+    void drawPoints(const QPointArray& points, int index = 0, int count = -1);
+    void moveTo(int x, int y);
+    void moveTo(const QPoint& p) { moveTo(p.x(), p.y()); }
+    void lineTo(int x, int y);
+    void lineTo(const QPoint& p) { lineTo(p.x(), p.y()); }
+    void drawLine(int x1, int y1, int x2, int y2);
+    void drawLine(const QPoint& p1, const QPoint& p2) { drawLine(p1.x(), p1.y(), p2.x(), p2.y()); }
+    void drawRect(int x, int y, int w, int h);
+    void drawRect(const QRect& rect) { drawRect(rect.x(), rect.y(), rect.width(), rect.height()); }
+    void drawWinFocusRect(int x, int y, int w, int h);
+    void drawWinFocusRect(int x, int y, int w, int h, const QColor& backgroundColor);
+    void drawWinFocusRect(const QRect& r) { drawWinFocusRect(r.x(), r.y(), r.width(), r.height()); }
+    void drawWinFocusRect(const QRect& r, const QColor& backgroundColor)
+    {
+        drawWinFocusRect(r.x(), r.y(), r.width(), r.height(), backgroundColor);
+    }
+    void drawRoundRect(int x, int y, int w, int h, int xRound = 25, int yRound = 25);
+    void drawRoundRect(const QRect& r, int xRound = 25, int yRound = 25)
+    {
+        drawRoundRect(r.x(), r.y(), r.width(), r.height(), xRound, yRound);
+    }
+    void drawEllipse(int x, int y, int w, int h);
+    void drawEllipse(const QRect& r) { drawEllipse(r.x(), r.y(), r.width(), r.height()); }
+    //! Angles in sixteenths of a degree, counter-clockwise from three o'clock.
+    void drawArc(int x, int y, int w, int h, int startAngle, int angleLength);
+    void drawArc(const QRect& r, int startAngle, int angleLength)
+    {
+        drawArc(r.x(), r.y(), r.width(), r.height(), startAngle, angleLength);
+    }
+    void drawPie(int x, int y, int w, int h, int startAngle, int angleLength);
+    void drawPie(const QRect& r, int startAngle, int angleLength)
+    {
+        drawPie(r.x(), r.y(), r.width(), r.height(), startAngle, angleLength);
+    }
+    void drawChord(int x, int y, int w, int h, int startAngle, int angleLength);
+    void drawChord(const QRect& r, int startAngle, int angleLength)
+    {
+        drawChord(r.x(), r.y(), r.width(), r.height(), startAngle, angleLength);
+    }
+    //! Pairs of points are the ends of lines.
+    void drawLineSegments(const QPointArray& points, int index = 0, int lineCount = -1);
+    void drawPolyline(const QPointArray& points, int index = 0, int count = -1);
+    void drawPolygon(const QPointArray& points, bool winding = false, int index = 0, int count = -1);
+    void drawConvexPolygon(const QPointArray& points, int index = 0, int count = -1)
+    {
+        drawPolygon(points, true, index, count);
+    }
+    void drawCubicBezier(const QPointArray& points, int index = 0);
+
+    void drawPixmap(int x, int y, const QPixmap& pixmap, int sx = 0, int sy = 0, int sw = -1, int sh = -1);
+    void drawPixmap(const QPoint& p, const QPixmap& pixmap, const QRect& source)
+    {
+        drawPixmap(p.x(), p.y(), pixmap, source.x(), source.y(), source.width(), source.height());
+    }
+    void drawPixmap(const QPoint& p, const QPixmap& pixmap) { drawPixmap(p.x(), p.y(), pixmap); }
+    void drawImage(int x, int y, const QImage& image, int sx = 0, int sy = 0, int sw = -1, int sh = -1,
+                   int conversionFlags = 0);
+    void drawImage(const QPoint& p, const QImage& image, int conversionFlags = 0);
+    void drawTiledPixmap(int x, int y, int w, int h, const QPixmap& pixmap, int sx = 0, int sy = 0);
+    void drawTiledPixmap(const QRect& r, const QPixmap& pixmap, const QPoint& s)
+    {
+        drawTiledPixmap(r.x(), r.y(), r.width(), r.height(), pixmap, s.x(), s.y());
+    }
+    void drawTiledPixmap(const QRect& r, const QPixmap& pixmap) { drawTiledPixmap(r, pixmap, QPoint()); }
+
+    void fillRect(int x, int y, int w, int h, const QBrush& brush);
+    void fillRect(const QRect& r, const QBrush& brush) { fillRect(r.x(), r.y(), r.width(), r.height(), brush); }
+    void eraseRect(int x, int y, int w, int h);
+    void eraseRect(const QRect& r) { eraseRect(r.x(), r.y(), r.width(), r.height()); }
+
+    enum TextDirection { Auto, RTL, LTR };
+
+    //! The pen at (x, y), on the base line.
+    void drawText(int x, int y, const QString& text, int length = -1, TextDirection direction = Auto);
+    void drawText(const QPoint& p, const QString& text, int length = -1, TextDirection direction = Auto)
+    {
+        drawText(p.x(), p.y(), text, length, direction);
+    }
+    void drawText(int x, int y, const QString& text, int position, int length, TextDirection direction = Auto);
+    //! Placed in the rectangle by Qt::AlignmentFlags and Qt::TextFlags, and clipped to it. `boundingRect` receives what
+    //! the text takes up.
+    void drawText(int x, int y, int w, int h, int flags, const QString& text, int length = -1,
+                  QRect* boundingRect = 0);
+    void drawText(const QRect& r, int flags, const QString& text, int length = -1, QRect* boundingRect = 0)
+    {
+        drawText(r.x(), r.y(), r.width(), r.height(), flags, text, length, boundingRect);
+    }
+    QRect boundingRect(int x, int y, int w, int h, int flags, const QString& text, int length = -1);
+    QRect boundingRect(const QRect& r, int flags, const QString& text, int length = -1)
+    {
+        return boundingRect(r.x(), r.y(), r.width(), r.height(), flags, text, length);
+    }
+    int tabStops() const;
+    void setTabStops(int pixels);
+
+private:
+    zeltk::PainterData* d;
+
+    QPainter(const QPainter&);
+    QPainter& operator=(const QPainter&);
+};
+
+#endif

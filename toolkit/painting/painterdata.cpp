@@ -1,0 +1,220 @@
+// The painter's state on its way to the X server.
+#include "painting/painterdata.h"
+
+#include "painting/brushpatterns.h"
+#include "painting/rasterops.h"
+#include "x11/colors.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace zeltk
+{
+
+namespace
+{
+
+x11::CapStyle capOf(Qt::PenCapStyle cap)
+{
+    return cap == Qt::SquareCap ? x11::CapSquare : cap == Qt::RoundCap ? x11::CapRounded : x11::CapFlat;
+}
+
+x11::JoinStyle joinOf(Qt::PenJoinStyle join)
+{
+    return join == Qt::BevelJoin ? x11::JoinBeveled : join == Qt::RoundJoin ? x11::JoinRounded : x11::JoinMitered;
+}
+
+// Dashes and gaps of a pen one unit wide.
+std::vector<char> dashesOf(Qt::PenStyle style)
+{
+    switch (style) {
+    case Qt::DashLine:
+        return {3, 1};
+    case Qt::DotLine:
+        return {1, 1};
+    case Qt::DashDotLine:
+        return {3, 1, 1, 1};
+    case Qt::DashDotDotLine:
+        return {3, 1, 1, 1, 1, 1};
+    default:
+        return {};
+    }
+}
+
+// They grow with the width. Thin pens have longer ones, so that they can be told apart.
+std::vector<char> dashesOf(const QPen& pen)
+{
+    std::vector<char> dashes = dashesOf(pen.style());
+    const int width = static_cast<int>(pen.width());
+    const int unit = width > 1 ? width : pen.style() == Qt::DashLine ? 6 : 3;
+    for (char& dash : dashes)
+        dash = static_cast<char>(std::min(dash * unit, 127));
+    return dashes;
+}
+
+bool isWhole(double value)
+{
+    return value == std::floor(value) && std::fabs(value) < 32768;
+}
+
+x11::Clip clipOf(const QRegion& region)
+{
+    auto rects = std::make_shared<std::vector<x11::ClipRect>>();
+    const QMemArray<QRect> parts = region.rects();
+    for (uint i = 0; i < parts.size(); ++i)
+        rects->push_back({parts.at(i).x(), parts.at(i).y(), parts.at(i).width(), parts.at(i).height()});
+    return rects;
+}
+
+} // namespace
+
+QRect mirroredRect(int x, int y, int w, int h)
+{
+    if (w < 0) {
+        w = 2 - w;
+        x -= w - 1;
+    }
+    if (h < 0) {
+        h = 2 - h;
+        y -= h - 1;
+    }
+    return QRect(x, y, w, h);
+}
+
+void PainterData::changed()
+{
+    penGc.slot = nullptr;
+    brushGc.slot = nullptr;
+}
+
+void PainterData::transformChanged()
+{
+    const QWMatrix& m = state.world;
+    if (!state.worldOn || m.isIdentity()) {
+        transform = Transform::None;
+    } else if (m.m12() != 0.0 || m.m21() != 0.0) {
+        transform = Transform::Other;
+    } else if (m.m11() == 1.0 && m.m22() == 1.0 && isWhole(m.dx()) && isWhole(m.dy())) {
+        transform = Transform::Translation;
+        dx = static_cast<int>(m.dx());
+        dy = static_cast<int>(m.dy());
+    } else {
+        transform = Transform::Scaling;
+    }
+}
+
+void PainterData::clipChanged()
+{
+    if (hasEventClip)
+        clip = clipOf(state.clipOn ? eventClip & state.clip : eventClip);
+    else
+        clip = state.clipOn ? clipOf(state.clip) : nullptr;
+    changed();
+}
+
+// Bitmaps know color0 and color1; of other colours the dark ones are ink.
+unsigned long PainterData::pixelOf(const QColor& color) const
+{
+    if (!bitmap)
+        return x11::pixelOf(color.rgb() & RGB_MASK);
+    if (color == Qt::color0 || color == Qt::color1)
+        return color == Qt::color1;
+    return qGray(color.rgb()) < 128;
+}
+
+x11::GcKey PainterData::baseKey() const
+{
+    x11::GcKey key;
+    key.foreground = pixelOf(state.pen.color());
+    key.background = pixelOf(state.background);
+    key.function = functionOf(state.rop);
+    key.overChildren = overChildren;
+    key.bitmap = bitmap;
+    key.clip = clip;
+    return key;
+}
+
+x11::GcKey PainterData::brushKey(const QBrush& brush) const
+{
+    x11::GcKey key = baseKey();
+    key.foreground = pixelOf(brush.color());
+    if (brush.style() == Qt::SolidPattern)
+        return key;
+    key.originX = state.brushOrigin.x();
+    key.originY = state.brushOrigin.y();
+    const QPixmap* pixmap = brush.style() == Qt::CustomPattern ? brush.pixmap() : nullptr;
+    if (pixmap && (pixmap->depth() > 1 || bitmap)) {
+        key.fill = x11::FillWithTile;
+        key.pattern = pixmap->handle();
+        return key;
+    }
+    key.fill = state.backgroundMode == Qt::OpaqueMode ? x11::FillWithOpaqueStipple : x11::FillWithStipple;
+    key.pattern = pixmap ? pixmap->handle() : patternBitmap(brush.style());
+    return key;
+}
+
+const x11::GcSlot* PainterData::forPen()
+{
+    if (penGc.valid())
+        return penGc.slot;
+    x11::GcKey key = baseKey();
+    key.lineWidth = state.pen.width() > 1 ? static_cast<int>(state.pen.width()) : 0;
+    key.cap = capOf(state.pen.capStyle());
+    key.join = joinOf(state.pen.joinStyle());
+    key.dashes = dashesOf(state.pen);
+    if (!key.dashes.empty())
+        key.lineStyle = state.backgroundMode == Qt::OpaqueMode ? x11::LineDoubleDash : x11::LineOnOff;
+    penGc.slot = x11::gcFor(key);
+    penGc.version = penGc.slot->version;
+    return penGc.slot;
+}
+
+const x11::GcSlot* PainterData::forBrush()
+{
+    if (brushGc.valid())
+        return brushGc.slot;
+    brushGc.slot = x11::gcFor(brushKey(state.brush));
+    brushGc.version = brushGc.slot->version;
+    return brushGc.slot;
+}
+
+QRect PainterData::mapRect(const QRect& rect) const
+{
+    switch (transform) {
+    case Transform::None:
+        return rect;
+    case Transform::Translation:
+        return QRect(rect.x() + dx, rect.y() + dy, rect.width(), rect.height());
+    default:
+        return state.world.mapRect(rect);
+    }
+}
+
+std::vector<x11::Point> PainterData::mapPoints(const QPointArray& points, int index, int count) const
+{
+    const int size = static_cast<int>(points.size());
+    index = std::max(index, 0);
+    const int end = count < 0 ? size : std::min(size, index + count);
+    std::vector<x11::Point> result;
+    for (int i = index; i < end; ++i) {
+        int x = points.at(static_cast<uint>(i)).x();
+        int y = points.at(static_cast<uint>(i)).y();
+        map(&x, &y);
+        result.push_back({static_cast<short>(x), static_cast<short>(y)});
+    }
+    return result;
+}
+
+void PainterData::fillDeviceRect(const QRect& rect, const x11::GcSlot* gc) const
+{
+    if (!rect.isEmpty())
+        x11::fillRectangle(drawable, gc, rect.x(), rect.y(), rect.width(), rect.height());
+}
+
+void PainterData::fillPoints(const std::vector<x11::Point>& points, bool winding, const x11::GcSlot* gc) const
+{
+    if (points.size() > 2)
+        x11::fillPolygon(drawable, gc, points, winding);
+}
+
+} // namespace zeltk

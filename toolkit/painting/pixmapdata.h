@@ -1,0 +1,28 @@
+// What pixmaps share.
+#ifndef ZELTK_PIXMAPDATA_H
+#define ZELTK_PIXMAPDATA_H
+
+#include <qbitmap.h>
+
+namespace zeltk
+{
+
+struct PixmapData {
+    int references;
+    int width;
+    int height;
+    int depth;
+    bool isBitmap;
+    bool selfMask; // a bitmap that is its own mask
+    int serial;
+    WId id;
+    QBitmap* mask;
+};
+
+// Answers QPixmap::fill(widget) and grabWidget; the kernel sets them.
+typedef void (*FillFromWidgetFunction)(QPixmap* pixmap, const QWidget* widget, int x, int y);
+extern FillFromWidgetFunction fillFromWidget;
+
+} // namespace zeltk
+
+#endif

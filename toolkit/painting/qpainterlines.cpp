@@ -1,0 +1,75 @@
+// QPainter: points and lines.
+#include <qpainter.h>
+
+#include "painting/painterdata.h"
+
+namespace x11 = zeltk::x11;
+
+// Points are one pixel, however wide the pen is.
+void QPainter::drawPoint(int x, int y)
+{
+    if (!isActive() || !d->hasPen())
+        return;
+    d->map(&x, &y);
+    x11::drawPoints(d->drawable, d->forPen(), {{static_cast<short>(x), static_cast<short>(y)}});
+}
+
+void QPainter::drawPoints(const QPointArray& points, int index, int count)
+{
+    if (!isActive() || !d->hasPen())
+        return;
+    const std::vector<x11::Point> mapped = d->mapPoints(points, index, count);
+    if (!mapped.empty())
+        x11::drawPoints(d->drawable, d->forPen(), mapped);
+}
+
+void QPainter::moveTo(int x, int y)
+{
+    d->state.pos = QPoint(x, y);
+}
+
+void QPainter::lineTo(int x, int y)
+{
+    drawLine(d->state.pos.x(), d->state.pos.y(), x, y);
+    d->state.pos = QPoint(x, y);
+}
+
+void QPainter::drawLine(int x1, int y1, int x2, int y2)
+{
+    if (!isActive() || !d->hasPen())
+        return;
+    d->map(&x1, &y1);
+    d->map(&x2, &y2);
+    x11::drawLine(d->drawable, d->forPen(), x1, y1, x2, y2);
+}
+
+void QPainter::drawLineSegments(const QPointArray& points, int index, int lineCount)
+{
+    if (!isActive() || !d->hasPen())
+        return;
+    const std::vector<x11::Point> mapped = d->mapPoints(points, index, lineCount < 0 ? -1 : 2 * lineCount);
+    std::vector<x11::Segment> segments;
+    for (size_t i = 0; i + 1 < mapped.size(); i += 2)
+        segments.push_back({mapped[i].x, mapped[i].y, mapped[i + 1].x, mapped[i + 1].y});
+    if (!segments.empty())
+        x11::drawSegments(d->drawable, d->forPen(), segments);
+}
+
+void QPainter::drawPolyline(const QPointArray& points, int index, int count)
+{
+    if (!isActive() || !d->hasPen())
+        return;
+    const std::vector<x11::Point> mapped = d->mapPoints(points, index, count);
+    if (mapped.size() > 1)
+        x11::drawPolyline(d->drawable, d->forPen(), mapped);
+}
+
+void QPainter::drawCubicBezier(const QPointArray& points, int index)
+{
+    QPointArray control(4);
+    if (!control.putPoints(0, 4, points, index) || static_cast<int>(points.size()) < index + 4) {
+        qWarning("QPainter::drawCubicBezier: Cubic Bezier needs 4 control points");
+        return;
+    }
+    drawPolyline(control.cubicBezier());
+}

@@ -1,0 +1,100 @@
+// QPainter: pixmaps and images.
+#include <qbitmap.h>
+#include <qimage.h>
+#include <qpainter.h>
+
+#include "painting/painterdata.h"
+#include "painting/rasterops.h"
+
+#include <cmath>
+
+namespace x11 = zeltk::x11;
+
+namespace
+{
+
+// The image under a matrix without its translation; transparent where nothing comes to lie. `origin` is the place of
+// its corner.
+QImage transformed(const QImage& image, const QWMatrix& matrix, QPoint* origin)
+{
+    const QWMatrix linear(matrix.m11(), matrix.m12(), matrix.m21(), matrix.m22(), 0, 0);
+    const QRect box = linear.mapRect(image.rect());
+    bool invertible = false;
+    const QWMatrix back = linear.invert(&invertible);
+    QImage result(box.width(), box.height(), 32);
+    *origin = box.topLeft();
+    if (!invertible || result.isNull())
+        return QImage();
+    result.setAlphaBuffer(true);
+    result.fill(0);
+    for (int y = 0; y < result.height(); ++y)
+        for (int x = 0; x < result.width(); ++x) {
+            double fx;
+            double fy;
+            back.map(box.x() + x + 0.5, box.y() + y + 0.5, &fx, &fy);
+            const int sx = static_cast<int>(std::floor(fx));
+            const int sy = static_cast<int>(std::floor(fy));
+            if (image.valid(sx, sy))
+                result.setPixel(x, y, image.pixel(sx, sy));
+        }
+    return result;
+}
+
+} // namespace
+
+void QPainter::drawPixmap(int x, int y, const QPixmap& pixmap, int sx, int sy, int sw, int sh)
+{
+    if (!isActive() || pixmap.isNull())
+        return;
+    const QRect part = QRect(sx, sy, sw < 0 ? pixmap.width() - sx : sw, sh < 0 ? pixmap.height() - sy : sh) & pixmap.rect();
+    if (part.isEmpty())
+        return;
+    x += part.x() - sx;
+    y += part.y() - sy;
+    d->map(&x, &y);
+    if (d->transform == zeltk::Transform::None || d->transform == zeltk::Transform::Translation) {
+        zeltk::blit(d->baseKey(), d->drawable, d->bitmap, x, y, &pixmap, part.x(), part.y(), part.width(), part.height(), false);
+        return;
+    }
+    QPoint origin;
+    const QImage image = transformed(pixmap.convertToImage().copy(part), d->state.world, &origin);
+    if (image.isNull())
+        return;
+    const QPixmap turned(image);
+    zeltk::blit(d->baseKey(), d->drawable, d->bitmap, x + origin.x(), y + origin.y(), &turned, 0, 0, turned.width(), turned.height(), false);
+}
+
+void QPainter::drawImage(int x, int y, const QImage& image, int sx, int sy, int sw, int sh, int)
+{
+    if (isActive() && !image.isNull())
+        drawPixmap(x, y, QPixmap(image), sx, sy, sw, sh);
+}
+
+void QPainter::drawImage(const QPoint& p, const QImage& image, int conversionFlags)
+{
+    drawImage(p.x(), p.y(), image, 0, 0, -1, -1, conversionFlags);
+}
+
+void QPainter::drawTiledPixmap(int x, int y, int w, int h, const QPixmap& pixmap, int sx, int sy)
+{
+    if (!isActive() || pixmap.isNull() || w <= 0 || h <= 0)
+        return;
+    const bool plain = pixmap.depth() > 1 && !pixmap.mask() && d->mapsRectsToRects() && d->transform != zeltk::Transform::Scaling;
+    if (plain) {
+        const QRect r = d->mapRect(QRect(x, y, w, h));
+        x11::GcKey key = d->baseKey();
+        key.fill = x11::FillWithTile;
+        key.pattern = pixmap.handle();
+        key.originX = r.x() - sx;
+        key.originY = r.y() - sy;
+        d->fillDeviceRect(r, x11::gcFor(key));
+        return;
+    }
+    const int startX = sx % pixmap.width();
+    const int startY = sy % pixmap.height();
+    for (int py = y - startY; py < y + h; py += pixmap.height())
+        for (int px = x - startX; px < x + w; px += pixmap.width()) {
+            const QRect tile = QRect(px, py, pixmap.width(), pixmap.height()) & QRect(x, y, w, h);
+            drawPixmap(tile.x(), tile.y(), pixmap, tile.x() - px, tile.y() - py, tile.width(), tile.height());
+        }
+}

@@ -1,0 +1,371 @@
+// QPixmap and QBitmap.
+#include <qbitmap.h>
+#include <qimage.h>
+#include <qpixmap.h>
+
+#include "painting/pixmapdata.h"
+#include "x11/colors.h"
+#include "x11/connection.h"
+#include "x11/draw.h"
+#include "x11/pixmap.h"
+
+#include <algorithm>
+
+using zeltk::PixmapData;
+namespace x11 = zeltk::x11;
+
+namespace zeltk
+{
+FillFromWidgetFunction fillFromWidget = nullptr;
+}
+
+namespace
+{
+
+int nextSerial()
+{
+    static int last = 0;
+    return ++last;
+}
+
+PixmapData* newData(int w, int h, int depth)
+{
+    PixmapData* data = new PixmapData{1, 0, 0, 0, depth == 1, false, nextSerial(), 0, nullptr};
+    if (!x11::connected()) {
+        qFatal("QPixmap: a QApplication is needed before any pixmap");
+        return data;
+    }
+    if (depth != -1 && depth != 1 && depth != x11::depth())
+        return data;
+    if (w < 0 || h < 0)
+        qWarning("QPixmap: Invalid pixmap parameters");
+    if (w <= 0 || h <= 0 || w > 32767 || h > 32767)
+        return data;
+    data->width = w;
+    data->height = h;
+    data->depth = depth == 1 ? 1 : x11::depth();
+    data->id = x11::createPixmap(w, h, data->depth);
+    return data;
+}
+
+PixmapData* nullData()
+{
+    return new PixmapData{1, 0, 0, 0, false, false, nextSerial(), 0, nullptr};
+}
+
+void release(PixmapData* data)
+{
+    if (--data->references > 0)
+        return;
+    delete data->mask;
+    x11::freePixmap(data->id);
+    delete data;
+}
+
+void copyPixels(const PixmapData* from, PixmapData* to)
+{
+    if (!from->id || !to->id)
+        return;
+    x11::GcKey plain;
+    plain.bitmap = from->depth == 1;
+    x11::copyArea(from->id, to->id, x11::gcFor(plain), 0, 0, std::min(from->width, to->width), std::min(from->height, to->height), 0, 0);
+}
+
+uchar mirrored(uchar bits)
+{
+    uchar result = 0;
+    for (int i = 0; i < 8; ++i)
+        if (bits & 1 << i)
+            result = static_cast<uchar>(result | 0x80 >> i);
+    return result;
+}
+
+} // namespace
+
+QPixmap::QPixmap() : QPaintDevice(PixmapDevice), d(nullData())
+{
+}
+
+QPixmap::QPixmap(int w, int h, int depth, Optimization) : QPaintDevice(PixmapDevice), d(newData(w, h, depth))
+{
+}
+
+QPixmap::QPixmap(const QSize& size, int depth, Optimization) : QPaintDevice(PixmapDevice), d(newData(size.width(), size.height(), depth))
+{
+}
+
+QPixmap::QPixmap(const QImage& image) : QPaintDevice(PixmapDevice), d(nullData())
+{
+    convertFromImage(image);
+}
+
+QPixmap::QPixmap(const QString& fileName, const char* format, ColorMode mode) : QPaintDevice(PixmapDevice), d(nullData())
+{
+    load(fileName, format, mode);
+}
+
+QPixmap::QPixmap(int w, int h, const uchar* data, bool isXbitmap) : QPaintDevice(PixmapDevice), d(newData(w, h, 1))
+{
+    if (!d->id)
+        return;
+    std::vector<uchar> bits(data, data + (w + 7) / 8 * h);
+    if (!isXbitmap)
+        std::transform(bits.begin(), bits.end(), bits.begin(), mirrored);
+    x11::freePixmap(d->id);
+    d->id = x11::createBitmap(bits.data(), w, h);
+}
+
+QPixmap::QPixmap(const QPixmap& other) : QPaintDevice(PixmapDevice), Qt(other), d(other.d)
+{
+    ++d->references;
+}
+
+QPixmap::~QPixmap()
+{
+    release(d);
+}
+
+QPixmap& QPixmap::operator=(const QPixmap& other)
+{
+    if (paintingActive()) {
+        qWarning("QPixmap::operator=: Cannot assign to pixmap during painting");
+        return *this;
+    }
+    ++other.d->references;
+    release(d);
+    d = other.d;
+    return *this;
+}
+
+QPixmap& QPixmap::operator=(const QImage& image)
+{
+    convertFromImage(image);
+    return *this;
+}
+
+void QPixmap::setData(PixmapData* data)
+{
+    release(d);
+    d = data;
+}
+
+Qt::HANDLE QPixmap::handle() const
+{
+    return d->id;
+}
+
+void QPixmap::detach()
+{
+    if (d->references == 1)
+        return;
+    PixmapData* own = newData(d->width, d->height, d->isBitmap ? 1 : -1);
+    copyPixels(d, own);
+    own->selfMask = d->selfMask;
+    own->mask = d->mask ? new QBitmap(*d->mask) : nullptr;
+    setData(own);
+}
+
+bool QPixmap::isNull() const
+{
+    return d->id == 0;
+}
+
+int QPixmap::width() const
+{
+    return d->width;
+}
+
+int QPixmap::height() const
+{
+    return d->height;
+}
+
+int QPixmap::depth() const
+{
+    return d->depth;
+}
+
+int QPixmap::defaultDepth()
+{
+    return x11::depth();
+}
+
+bool QPixmap::isQBitmap() const
+{
+    return d->isBitmap;
+}
+
+int QPixmap::serialNumber() const
+{
+    return d->serial;
+}
+
+// The old pixels need no copy when others share them: all of the new ones are painted.
+void QPixmap::fill(const QColor& color)
+{
+    if (isNull())
+        return;
+    if (d->references > 1)
+        setData(newData(d->width, d->height, d->isBitmap ? 1 : -1));
+    d->serial = nextSerial();
+    x11::GcKey key;
+    key.bitmap = d->depth == 1;
+    key.foreground = key.bitmap ? color != Qt::color0 && color != Qt::white : color.pixel();
+    x11::fillRectangle(d->id, x11::gcFor(key), 0, 0, d->width, d->height);
+}
+
+void QPixmap::fill(const QWidget* widget, int xofs, int yofs)
+{
+    if (!isNull() && zeltk::fillFromWidget)
+        zeltk::fillFromWidget(this, widget, xofs, yofs);
+}
+
+void QPixmap::resize(int w, int h)
+{
+    if (w < 1 || h < 1) {
+        setData(nullData());
+        return;
+    }
+    if (w == d->width && h == d->height)
+        return;
+    PixmapData* fresh = newData(w, h, d->isBitmap ? 1 : -1);
+    copyPixels(d, fresh);
+    setData(fresh);
+}
+
+const QBitmap* QPixmap::mask() const
+{
+    return d->mask;
+}
+
+bool QPixmap::selfMask() const
+{
+    return d->selfMask;
+}
+
+void QPixmap::setMask(const QBitmap& mask)
+{
+    if (static_cast<const QPixmap*>(&mask) == this) {
+        d->selfMask = true;
+        return;
+    }
+    if (!mask.isNull() && mask.size() != size()) {
+        qWarning("QPixmap::setMask: The pixmap and the mask must have the same size");
+        return;
+    }
+    detach();
+    QBitmap* copy = mask.isNull() ? nullptr : new QBitmap(mask);
+    delete d->mask;
+    d->mask = copy;
+    d->selfMask = false;
+}
+
+QImage QPixmap::convertToImage() const
+{
+    if (isNull())
+        return QImage();
+    QImage image(d->width, d->height, 32);
+    const std::vector<std::uint32_t> pixels = x11::readPixels(d->id, d->depth == 1, 0, 0, d->width, d->height);
+    if (pixels.empty())
+        return QImage();
+    const std::vector<std::uint32_t> opaque =
+        d->mask ? x11::readPixels(d->mask->handle(), true, 0, 0, d->width, d->height) : std::vector<std::uint32_t>();
+    image.setAlphaBuffer(!opaque.empty());
+    for (size_t i = 0; i < pixels.size(); ++i) {
+        const uint color = d->depth == 1 ? (pixels[i] ? 0xff000000 : 0xffffffff) : pixels[i];
+        const bool visible = opaque.empty() || opaque[i];
+        image.setPixel(static_cast<int>(i) % d->width, static_cast<int>(i) / d->width, visible ? color : color & RGB_MASK);
+    }
+    return image;
+}
+
+// Pixels less than half opaque become transparent.
+bool QPixmap::convertFromImage(const QImage& image, ColorMode)
+{
+    if (image.isNull()) {
+        qWarning("QPixmap::convertFromImage: Cannot convert a null image");
+        return false;
+    }
+    const bool toBitmap = isQBitmap();
+    PixmapData* fresh = newData(image.width(), image.height(), toBitmap ? 1 : -1);
+    if (!fresh->id) {
+        release(fresh);
+        return false;
+    }
+    std::vector<std::uint32_t> pixels;
+    std::vector<std::uint32_t> opaque;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb pixel = image.pixel(x, y);
+            pixels.push_back(toBitmap ? qGray(pixel) < 128 : pixel);
+            opaque.push_back(qAlpha(pixel) >= 128);
+        }
+    x11::writePixels(fresh->id, toBitmap, pixels.data(), image.width(), image.height());
+    setData(fresh);
+    if (image.hasAlphaBuffer() && std::count(opaque.begin(), opaque.end(), 0U) > 0) {
+        QBitmap visible(image.width(), image.height());
+        x11::writePixels(visible.handle(), true, opaque.data(), image.width(), image.height());
+        setMask(visible);
+    }
+    return true;
+}
+
+bool QPixmap::load(const QString& fileName, const char* format, ColorMode mode)
+{
+    QImage image;
+    return image.load(fileName, format) && convertFromImage(image, mode);
+}
+
+bool QPixmap::save(const QString& fileName, const char* format, int quality) const
+{
+    return !isNull() && convertToImage().save(fileName, format, quality);
+}
+
+QPixmap QPixmap::grabWindow(WId window, int x, int y, int w, int h)
+{
+    int width = 0;
+    int height = 0;
+    if (!x11::drawableSize(window, &width, &height))
+        return QPixmap();
+    QPixmap pixmap(w < 0 ? width - x : w, h < 0 ? height - y : h);
+    if (!pixmap.isNull()) {
+        x11::GcKey key;
+        key.overChildren = true;
+        x11::copyArea(window, pixmap.handle(), x11::gcFor(key), x, y, pixmap.width(), pixmap.height(), 0, 0);
+    }
+    return pixmap;
+}
+
+QBitmap::QBitmap() : QPixmap(0, 0, 1)
+{
+}
+
+QBitmap::QBitmap(int w, int h, bool clear, Optimization optimization) : QPixmap(w, h, 1, optimization)
+{
+    if (clear)
+        fill(Qt::color0);
+}
+
+QBitmap::QBitmap(const QSize& size, bool clear, Optimization optimization) : QPixmap(size, 1, optimization)
+{
+    if (clear)
+        fill(Qt::color0);
+}
+
+QBitmap::QBitmap(int w, int h, const uchar* bits, bool isXbitmap) : QPixmap(w, h, bits, isXbitmap)
+{
+}
+
+QBitmap::QBitmap(const QSize& size, const uchar* bits, bool isXbitmap) : QPixmap(size.width(), size.height(), bits, isXbitmap)
+{
+}
+
+QBitmap::QBitmap(const QBitmap& other) : QPixmap(other)
+{
+}
+
+QBitmap& QBitmap::operator=(const QBitmap& other)
+{
+    QPixmap::operator=(other);
+    return *this;
+}

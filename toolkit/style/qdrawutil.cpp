@@ -1,0 +1,212 @@
+// Bevels and frames.
+#include <qdrawutil.h>
+#include <qpainter.h>
+#include <qpalette.h>
+
+#include <utility>
+
+namespace
+{
+
+// Gives pen and brush back at the end.
+class KeepsTools
+{
+public:
+    explicit KeepsTools(QPainter* p) : painter(p), pen(p->pen()), brush(p->brush()) {}
+    ~KeepsTools()
+    {
+        painter->setPen(pen);
+        painter->setBrush(brush);
+    }
+
+private:
+    QPainter* painter;
+    QPen pen;
+    QBrush brush;
+};
+
+// One ring of a bevel: its left and upper sides, its right and lower sides. The corners on the diagonal belong to the
+// right and lower ones.
+void drawRing(QPainter* p, const QRect& r, const QColor& upperLeft, const QColor& lowerRight)
+{
+    p->setPen(upperLeft);
+    p->drawLine(r.left(), r.top(), r.right() - 1, r.top());
+    p->drawLine(r.left(), r.top(), r.left(), r.bottom() - 1);
+    p->setPen(lowerRight);
+    p->drawLine(r.left(), r.bottom(), r.right(), r.bottom());
+    p->drawLine(r.right(), r.top(), r.right(), r.bottom());
+}
+
+QRect inside(const QRect& r, int by)
+{
+    return QRect(r.x() + by, r.y() + by, r.width() - 2 * by, r.height() - 2 * by);
+}
+
+void fillInside(QPainter* p, const QRect& r, const QBrush* fill)
+{
+    if (!fill || r.width() < 1 || r.height() < 1)
+        return;
+    p->fillRect(r, *fill);
+}
+
+// Windows bevels: two rings, each with its own two colours.
+void drawWinShades(QPainter* p, const QRect& r, const QColor& outerLight, const QColor& outerDark, const QColor& innerLight,
+                   const QColor& innerDark, const QBrush* fill)
+{
+    if (r.width() < 2 || r.height() < 2)
+        return;
+    drawRing(p, r, outerLight, outerDark);
+    if (r.width() > 2 && r.height() > 2) {
+        drawRing(p, inside(r, 1), innerLight, innerDark);
+        fillInside(p, inside(r, 2), fill);
+    }
+}
+
+} // namespace
+
+void qDrawShadeLine(QPainter* p, int x1, int y1, int x2, int y2, const QColorGroup& g, bool sunken, int lineWidth, int midLineWidth)
+{
+    if (!p || lineWidth < 0 || midLineWidth < 0)
+        return;
+    const KeepsTools keep(p);
+    const int total = lineWidth * 2 + midLineWidth;
+    const QColor first = sunken ? g.dark() : g.light();
+    const QColor last = sunken ? g.light() : g.dark();
+    if (y1 == y2) {
+        const int y = y1 - total / 2;
+        if (x1 > x2)
+            std::swap(x1, x2);
+        --x2;
+        p->setPen(first);
+        for (int i = 0; i < lineWidth; ++i) {
+            p->drawLine(x1 + i, y + total - 1 - i, x1 + i, y + i);
+            p->drawLine(x1 + i, y + i, x2 - i, y + i);
+        }
+        p->setPen(g.mid());
+        for (int i = 0; i < midLineWidth; ++i)
+            p->drawLine(x1 + lineWidth, y + lineWidth + i, x2 - lineWidth, y + lineWidth + i);
+        p->setPen(last);
+        for (int i = 0; i < lineWidth; ++i) {
+            p->drawLine(x1 + i, y + total - 1 - i, x2 - i, y + total - 1 - i);
+            p->drawLine(x2 - i, y + total - 1 - i, x2 - i, y + i + 1);
+        }
+    } else if (x1 == x2) {
+        const int x = x1 - total / 2;
+        if (y1 > y2)
+            std::swap(y1, y2);
+        --y2;
+        p->setPen(first);
+        for (int i = 0; i < lineWidth; ++i) {
+            p->drawLine(x + i, y2, x + i, y1 + i);
+            p->drawLine(x + i, y1 + i, x + total - 1, y1 + i);
+        }
+        p->setPen(g.mid());
+        for (int i = 0; i < midLineWidth; ++i)
+            p->drawLine(x + lineWidth + i, y1 + lineWidth, x + lineWidth + i, y2);
+        p->setPen(last);
+        for (int i = 0; i < lineWidth; ++i) {
+            p->drawLine(x + lineWidth, y2 - i, x + total - i - 1, y2 - i);
+            p->drawLine(x + total - i - 1, y2 - i, x + total - i - 1, y1 + lineWidth);
+        }
+    }
+}
+
+void qDrawShadeLine(QPainter* p, const QPoint& p1, const QPoint& p2, const QColorGroup& g, bool sunken, int lineWidth, int midLineWidth)
+{
+    qDrawShadeLine(p, p1.x(), p1.y(), p2.x(), p2.y(), g, sunken, lineWidth, midLineWidth);
+}
+
+// From the outside: a bevel, the middle, and the bevel turned inside out.
+void qDrawShadeRect(QPainter* p, int x, int y, int w, int h, const QColorGroup& g, bool sunken, int lineWidth, int midLineWidth,
+                    const QBrush* fill)
+{
+    if (!p || w < 1 || h < 1 || lineWidth < 0 || midLineWidth < 0)
+        return;
+    const KeepsTools keep(p);
+    const QRect all(x, y, w, h);
+    const QColor upperLeft = sunken ? g.dark() : g.light();
+    const QColor lowerRight = sunken ? g.light() : g.dark();
+    for (int i = 0; i < lineWidth; ++i)
+        drawRing(p, inside(all, i), upperLeft, lowerRight);
+    for (int i = 0; i < midLineWidth; ++i)
+        drawRing(p, inside(all, lineWidth + i), g.mid(), g.mid());
+    for (int i = 0; i < lineWidth; ++i)
+        drawRing(p, inside(all, lineWidth + midLineWidth + i), lowerRight, upperLeft);
+    fillInside(p, inside(all, 2 * lineWidth + midLineWidth), fill);
+}
+
+void qDrawShadeRect(QPainter* p, const QRect& r, const QColorGroup& g, bool sunken, int lineWidth, int midLineWidth, const QBrush* fill)
+{
+    qDrawShadeRect(p, r.x(), r.y(), r.width(), r.height(), g, sunken, lineWidth, midLineWidth, fill);
+}
+
+void qDrawShadePanel(QPainter* p, int x, int y, int w, int h, const QColorGroup& g, bool sunken, int lineWidth, const QBrush* fill)
+{
+    if (!p || w < 1 || h < 1 || lineWidth < 0)
+        return;
+    const KeepsTools keep(p);
+    QColor light = g.light();
+    QColor shade = g.dark();
+    if (fill && fill->color() == shade)
+        shade = g.shadow();
+    if (fill && fill->color() == light)
+        light = g.midlight();
+    const QRect all(x, y, w, h);
+    for (int i = 0; i < lineWidth; ++i)
+        drawRing(p, inside(all, i), sunken ? shade : light, sunken ? light : shade);
+    fillInside(p, inside(all, lineWidth), fill);
+}
+
+void qDrawShadePanel(QPainter* p, const QRect& r, const QColorGroup& g, bool sunken, int lineWidth, const QBrush* fill)
+{
+    qDrawShadePanel(p, r.x(), r.y(), r.width(), r.height(), g, sunken, lineWidth, fill);
+}
+
+void qDrawWinButton(QPainter* p, int x, int y, int w, int h, const QColorGroup& g, bool sunken, const QBrush* fill)
+{
+    if (!p)
+        return;
+    const KeepsTools keep(p);
+    if (sunken)
+        drawWinShades(p, QRect(x, y, w, h), g.shadow(), g.light(), g.dark(), g.button(), fill);
+    else
+        drawWinShades(p, QRect(x, y, w, h), g.light(), g.shadow(), g.button(), g.dark(), fill);
+}
+
+void qDrawWinButton(QPainter* p, const QRect& r, const QColorGroup& g, bool sunken, const QBrush* fill)
+{
+    qDrawWinButton(p, r.x(), r.y(), r.width(), r.height(), g, sunken, fill);
+}
+
+void qDrawWinPanel(QPainter* p, int x, int y, int w, int h, const QColorGroup& g, bool sunken, const QBrush* fill)
+{
+    if (!p)
+        return;
+    const KeepsTools keep(p);
+    if (sunken)
+        drawWinShades(p, QRect(x, y, w, h), g.dark(), g.light(), g.shadow(), g.midlight(), fill);
+    else
+        drawWinShades(p, QRect(x, y, w, h), g.light(), g.shadow(), g.midlight(), g.dark(), fill);
+}
+
+void qDrawWinPanel(QPainter* p, const QRect& r, const QColorGroup& g, bool sunken, const QBrush* fill)
+{
+    qDrawWinPanel(p, r.x(), r.y(), r.width(), r.height(), g, sunken, fill);
+}
+
+void qDrawPlainRect(QPainter* p, int x, int y, int w, int h, const QColor& color, int lineWidth, const QBrush* fill)
+{
+    if (!p || w < 1 || h < 1 || lineWidth < 0)
+        return;
+    const KeepsTools keep(p);
+    p->setPen(color);
+    p->setBrush(Qt::NoBrush);
+    for (int i = 0; i < lineWidth; ++i)
+        p->drawRect(inside(QRect(x, y, w, h), i));
+    fillInside(p, inside(QRect(x, y, w, h), lineWidth), fill);
+}
+
+void qDrawPlainRect(QPainter* p, const QRect& r, const QColor& color, int lineWidth, const QBrush* fill)
+{
+    qDrawPlainRect(p, r.x(), r.y(), r.width(), r.height(), color, lineWidth, fill);
+}

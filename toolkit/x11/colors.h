@@ -1,0 +1,24 @@
+// Colours as the X server knows them.
+#ifndef ZELTK_X11_COLORS_H
+#define ZELTK_X11_COLORS_H
+
+#include <cstdint>
+#include <string>
+
+namespace zeltk
+{
+namespace x11
+{
+
+// The pixel value of a colour 0xRRGGBB on the default visual; the colour itself without connection.
+unsigned long pixelOf(std::uint32_t rgb);
+// The colour of a pixel value.
+std::uint32_t colorOf(unsigned long pixel);
+// Asks the server for a colour by name, each name once. False if there is none of that name.
+bool lookupColor(const std::string& name, std::uint32_t* rgb);
+int colorCount();
+
+} // namespace x11
+} // namespace zeltk
+
+#endif

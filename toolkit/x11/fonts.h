@@ -1,0 +1,71 @@
+// Fonts through Xft: finding, measuring, drawing.
+#ifndef ZELTK_X11_FONTS_H
+#define ZELTK_X11_FONTS_H
+
+#include "x11/connection.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace zeltk
+{
+namespace x11
+{
+
+struct FontRequest {
+    std::vector<std::string> families; // the first one there is
+    int pixelSize;
+    int weight; // 0-99, from 57 on bold faces are wanted
+    bool italic;
+    bool antialias;
+};
+
+struct GlyphBox {
+    int x; // from the pen to the left edge
+    int y; // from the base line to the upper edge, negative above it
+    int width;
+    int height;
+    int advance;
+};
+
+struct ClipRect {
+    int x;
+    int y;
+    int width;
+    int height;
+};
+
+class Font;
+
+// Fonts are opened once and kept. Needs a connection.
+const Font* openFont(const FontRequest& request);
+
+int ascent(const Font* font);
+// Rows below the base line.
+int descent(const Font* font);
+int lineHeight(const Font* font);
+int maxAdvance(const Font* font);
+std::string familyOf(const Font* font);
+bool isBold(const Font* font);
+bool isFixed(const Font* font);
+
+bool hasGlyph(const Font* font, char16_t c);
+// Measures are cached; they cost no request.
+GlyphBox glyphBox(const Font* font, char16_t c);
+int textWidth(const Font* font, const char16_t* text, size_t length);
+
+// Draws with the pen at (x, y) in the colour 0xRRGGBB. `bitmap`: the drawable has depth 1, and the colour is 0 or 1.
+// A null clip means all of the drawable.
+void drawText(XId drawable, bool bitmap, const Font* font, int x, int y, const char16_t* text, size_t length,
+              std::uint32_t color, const std::vector<ClipRect>* clip);
+// A new bitmap of that size with the pixels that the text covers by half or more; the caller frees it.
+XId textMask(const Font* font, int width, int height, int x, int y, const char16_t* text, size_t length);
+// Must be called before a drawable is freed.
+void forgetDrawable(XId drawable);
+
+} // namespace x11
+} // namespace zeltk
+
+#endif

@@ -1,0 +1,128 @@
+// Graphics contexts, kept for use again.
+#include "x11/gc.h"
+
+#include "x11/xlib.h"
+
+namespace zeltk
+{
+namespace x11
+{
+
+namespace
+{
+
+constexpr size_t storeSize = 24;
+constexpr unsigned long fields = GCFunction | GCForeground | GCBackground | GCLineWidth | GCLineStyle | GCCapStyle | GCJoinStyle |
+                                 GCFillStyle | GCTileStipXOrigin | GCTileStipYOrigin | GCSubwindowMode | GCGraphicsExposures;
+
+// Contexts belong to a depth; these two drawables are made only to name it.
+XId exampleDrawable(bool bitmap)
+{
+    static const XId onePixel = XCreatePixmap(display(), rootWindow(), 1, 1, 1);
+    return bitmap ? onePixel : rootWindow();
+}
+
+unsigned long fill(const GcKey& key, XGCValues* values)
+{
+    values->function = key.function;
+    values->foreground = key.foreground;
+    values->background = key.background;
+    values->line_width = key.lineWidth;
+    values->line_style = key.lineStyle;
+    values->cap_style = key.cap;
+    values->join_style = key.join;
+    values->fill_style = key.fill;
+    values->ts_x_origin = key.originX;
+    values->ts_y_origin = key.originY;
+    values->subwindow_mode = key.overChildren ? IncludeInferiors : ClipByChildren;
+    values->graphics_exposures = 0;
+    values->tile = key.pattern;
+    values->stipple = key.pattern;
+    if (key.fill == FillWithTile)
+        return fields | GCTile;
+    return key.fill == FillWithColor ? fields : fields | GCStipple;
+}
+
+void set(GcSlot* slot, const GcKey& key)
+{
+    XGCValues values;
+    const unsigned long mask = fill(key, &values);
+    const bool wasClipped = slot->gc && slot->key.clip;
+    if (slot->gc)
+        XChangeGC(display(), slot->gc, mask, &values);
+    else
+        slot->gc = XCreateGC(display(), exampleDrawable(key.bitmap), mask, &values);
+    if (!key.dashes.empty())
+        XSetDashes(display(), slot->gc, 0, key.dashes.data(), static_cast<int>(key.dashes.size()));
+    if (key.clip) {
+        std::vector<XRectangle> rects;
+        for (const ClipRect& r : *key.clip)
+            rects.push_back({static_cast<short>(r.x), static_cast<short>(r.y), static_cast<unsigned short>(r.width), static_cast<unsigned short>(r.height)});
+        XSetClipRectangles(display(), slot->gc, 0, 0, rects.data(), static_cast<int>(rects.size()), XUnsorted);
+    } else if (wasClipped) {
+        XSetClipMask(display(), slot->gc, XNone);
+    }
+    slot->key = key;
+    ++slot->version;
+}
+
+std::vector<GcSlot>& store()
+{
+    static std::vector<GcSlot> slots = [] {
+        std::vector<GcSlot> s;
+        s.reserve(storeSize);
+        return s;
+    }();
+    return slots;
+}
+
+} // namespace
+
+bool GcKey::operator==(const GcKey& other) const
+{
+    return foreground == other.foreground && clip == other.clip && background == other.background && function == other.function &&
+           lineWidth == other.lineWidth && lineStyle == other.lineStyle && cap == other.cap && join == other.join && fill == other.fill &&
+           pattern == other.pattern && originX == other.originX && originY == other.originY && overChildren == other.overChildren &&
+           bitmap == other.bitmap && dashes == other.dashes;
+}
+
+GcSlot* gcFor(const GcKey& key)
+{
+    static unsigned long uses = 0;
+    std::vector<GcSlot>& slots = store();
+    GcSlot* oldest = nullptr;
+    for (GcSlot& slot : slots) {
+        if (slot.key == key) {
+            slot.lastUse = ++uses;
+            return &slot;
+        }
+        if (slot.key.bitmap == key.bitmap && (!oldest || slot.lastUse < oldest->lastUse))
+            oldest = &slot;
+    }
+    if (slots.size() < storeSize || !oldest) {
+        if (slots.size() == storeSize) {
+            XFreeGC(display(), slots.back().gc);
+            slots.back().gc = nullptr;
+            oldest = &slots.back();
+        } else {
+            slots.emplace_back();
+            oldest = &slots.back();
+        }
+    }
+    set(oldest, key);
+    oldest->lastUse = ++uses;
+    return oldest;
+}
+
+void forgetPattern(XId pattern)
+{
+    for (GcSlot& slot : store())
+        if (slot.key.fill != FillWithColor && slot.key.pattern == pattern) {
+            GcKey plain;
+            plain.bitmap = slot.key.bitmap;
+            set(&slot, plain);
+        }
+}
+
+} // namespace x11
+} // namespace zeltk
