@@ -47,6 +47,20 @@ void forgetWindows(QWidget* widget)
             forgetWindows(child);
 }
 
+zeltk::x11::WindowSpec windowSpec(const QWidget* widget)
+{
+    const QRect& box = widget->geometry();
+    zeltk::x11::WindowSpec spec;
+    spec.parent = widget->isTopLevel() ? zeltk::x11::rootWindow() : widget->parentWidget()->winId();
+    spec.box = {box.x(), box.y(), box.width(), box.height()};
+    spec.topLevel = widget->isTopLevel();
+    spec.overrideRedirect = widget->testWFlags(Qt::WType_Popup | Qt::WX11BypassWM) != 0;
+    spec.saveUnder = widget->isPopup();
+    spec.staticContents = widget->testWFlags(Qt::WStaticContents) != 0;
+    spec.backgroundPixel = widget->eraseColor().pixel();
+    return spec;
+}
+
 void postFirstGeometry(QWidget* widget)
 {
     const QRect& geometry = widget->geometry();
@@ -85,8 +99,6 @@ QRect defaultGeometry(const QWidget* widget)
     const int screenHeight = x11::screenHeight();
     if (widget->isDesktop())
         return QRect(0, 0, screenWidth, screenHeight);
-    if (widget->isPopup())
-        return QRect(0, 0, 100, 30);
     const int width = screenWidth / 2;
     const int height = screenHeight * 4 / 10;
     return QRect((screenWidth - width) / 2, (screenHeight - height) / 2, width, height);
@@ -101,22 +113,33 @@ void createWidgetWindow(QWidget* widget)
     if (widget->isDesktop()) {
         data->window = x11::rootWindow();
     } else {
-        const QRect& box = data->geometry;
-        x11::WindowSpec spec;
-        spec.parent = widget->isTopLevel() ? x11::rootWindow() : widget->parentWidget()->winId();
-        spec.box = {box.x(), box.y(), box.width(), box.height()};
-        spec.topLevel = widget->isTopLevel();
-        spec.overrideRedirect = widget->testWFlags(Qt::WType_Popup | Qt::WX11BypassWM) != 0;
-        spec.saveUnder = widget->isPopup();
-        spec.staticContents = widget->testWFlags(Qt::WStaticContents) != 0;
-        spec.backgroundPixel = widget->eraseColor().pixel();
-        data->window = x11::createWindow(spec);
+        data->window = x11::createWindow(windowSpec(widget));
     }
     windowTable()[data->window] = widget;
     WidgetAccess::setHandle(widget, data->window);
     WidgetAccess::setState(widget, Qt::WState_Created);
     if (!widget->isDesktop())
         postFirstGeometry(widget);
+}
+
+void replaceWidgetWindow(QWidget* widget, Qt::WFlags flags)
+{
+    WidgetData* data = dataOf(widget);
+    data->flags = completeFlags(flags, widget->parentWidget() != nullptr);
+    data->geometry = defaultGeometry(widget);
+    if (!widget->isTopLevel()) {
+        data->top.reset();
+    } else {
+        std::unique_ptr<TopLevelData> top(new TopLevelData);
+        if (data->top) {
+            top->caption = data->top->caption;
+            top->iconText = data->top->iconText;
+            top->icon = std::move(data->top->icon);
+        }
+        data->top = std::move(top);
+    }
+    x11::rehangWindow(data->window, windowSpec(widget));
+    postFirstGeometry(widget);
 }
 
 void destroyWidgetWindow(QWidget* widget)

@@ -32,7 +32,7 @@ struct TopLevelData {
     int frameRight = 0;
     int frameBottom = 0;
     x11::XId frameWindow = 0;
-    bool placed = false;   // the program chose the position
+    bool placed = false;    // the program chose the position
     bool described = false; // the window manager knows class, kind and decorations
     unsigned long configureSerial = 0;
     uint windowState = 0;
@@ -64,14 +64,15 @@ struct WidgetData {
     bool ownFont = false;
     bool disabledItself = false; // not only by an ancestor
     bool hiddenItself = false;   // the program hid it
+    bool plainBackground = true; // the server clears with eraseColor
     bool mapped = false;         // the server has been told to show it
 
     std::unique_ptr<QCursor> cursor;
     QWidget::FocusPolicy focusPolicy = QWidget::NoFocus;
     QWidget* focusProxy = nullptr;
 
-    QRegion exposed;               // collected until the last Expose event of a series
-    bool keepsOnResize = false;    // the next Expose follows a resize without erasing
+    QRegion exposed;                  // collected until the last Expose event of a series
+    bool keepsOnResize = false;       // the next Expose follows a resize without erasing
     const QRegion* painted = nullptr; // region of the paint event in progress
 
     std::unique_ptr<TopLevelData> top;
@@ -103,6 +104,8 @@ std::vector<QWidget*> childWidgets(const QWidget* widget);
 
 // Makes the window of a widget that has none, with default geometry.
 void createWidgetWindow(QWidget* widget);
+// Makes it fit a new parent and new flags.
+void replaceWidgetWindow(QWidget* widget, Qt::WFlags flags);
 // Ends the window with all inside it; descendants' windows are forgotten.
 void destroyWidgetWindow(QWidget* widget);
 // The geometry that new windows have.
@@ -111,8 +114,11 @@ QRect defaultGeometry(const QWidget* widget);
 // The palette or font that a widget has which sets none itself.
 QPalette inheritedPalette(const QWidget* widget);
 QFont inheritedFont(const QWidget* widget);
-// After a widget got another parent.
+// After a widget got another parent: palette, font, and whether it is enabled.
 void inheritAgain(QWidget* widget);
+
+// Sets whether the widget and all inside it are enabled, as they and their ancestors say.
+void refreshEnabled(QWidget* widget);
 
 // Describe a top-level window to the window manager.
 void describeWindow(QWidget* widget);

@@ -53,8 +53,6 @@ void QWidget::internalSetGeometry(int x, int y, int width, int height, bool isMo
     const bool resized = wd->geometry.size() != before.size();
     if (moved || resized)
         tellServer(this, moved, resized);
-    if (isTopLevel() && (moved || resized || !wd->top->described))
-        zeltk::sendSizeHints(this);
     if (isVisible()) {
         if (moved) {
             QMoveEvent event(pos(), placeBefore);

@@ -55,8 +55,8 @@ void QWidget::adjustSize()
             wanted.setWidth(QMAX(wanted.width(), 200));
         if (directions & QSizePolicy::Vertically)
             wanted.setHeight(QMAX(wanted.height(), 150));
-        wanted = wanted.boundedTo(
-            QSize(zeltk::x11::screenWidth() * 2 / 3, zeltk::x11::screenHeight() * 2 / 3));
+        wanted =
+            wanted.boundedTo(QSize(zeltk::x11::screenWidth() * 2 / 3, zeltk::x11::screenHeight() * 2 / 3));
     }
     if (wanted.isValid()) {
         resize(wanted);

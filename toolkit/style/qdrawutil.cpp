@@ -3,7 +3,7 @@
 #include <qpainter.h>
 #include <qpalette.h>
 
-#include <utility>
+#include <algorithm>
 
 namespace
 {
@@ -64,51 +64,21 @@ void drawWinShades(QPainter* p, const QRect& r, const QColor& outerLight, const 
 
 } // namespace
 
+// A thin box with rings of light and shade; what the rings leave is the middle.
 void qDrawShadeLine(QPainter* p, int x1, int y1, int x2, int y2, const QColorGroup& g, bool sunken, int lineWidth, int midLineWidth)
 {
-    if (!p || lineWidth < 0 || midLineWidth < 0)
+    if (!p || lineWidth < 0 || midLineWidth < 0 || (x1 != x2 && y1 != y2))
         return;
     const KeepsTools keep(p);
     const int total = lineWidth * 2 + midLineWidth;
-    const QColor first = sunken ? g.dark() : g.light();
-    const QColor last = sunken ? g.light() : g.dark();
-    if (y1 == y2) {
-        const int y = y1 - total / 2;
-        if (x1 > x2)
-            std::swap(x1, x2);
-        --x2;
-        p->setPen(first);
-        for (int i = 0; i < lineWidth; ++i) {
-            p->drawLine(x1 + i, y + total - 1 - i, x1 + i, y + i);
-            p->drawLine(x1 + i, y + i, x2 - i, y + i);
-        }
-        p->setPen(g.mid());
-        for (int i = 0; i < midLineWidth; ++i)
-            p->drawLine(x1 + lineWidth, y + lineWidth + i, x2 - lineWidth, y + lineWidth + i);
-        p->setPen(last);
-        for (int i = 0; i < lineWidth; ++i) {
-            p->drawLine(x1 + i, y + total - 1 - i, x2 - i, y + total - 1 - i);
-            p->drawLine(x2 - i, y + total - 1 - i, x2 - i, y + i + 1);
-        }
-    } else if (x1 == x2) {
-        const int x = x1 - total / 2;
-        if (y1 > y2)
-            std::swap(y1, y2);
-        --y2;
-        p->setPen(first);
-        for (int i = 0; i < lineWidth; ++i) {
-            p->drawLine(x + i, y2, x + i, y1 + i);
-            p->drawLine(x + i, y1 + i, x + total - 1, y1 + i);
-        }
-        p->setPen(g.mid());
-        for (int i = 0; i < midLineWidth; ++i)
-            p->drawLine(x + lineWidth + i, y1 + lineWidth, x + lineWidth + i, y2);
-        p->setPen(last);
-        for (int i = 0; i < lineWidth; ++i) {
-            p->drawLine(x + lineWidth, y2 - i, x + total - i - 1, y2 - i);
-            p->drawLine(x + total - i - 1, y2 - i, x + total - i - 1, y1 + lineWidth);
-        }
-    }
+    QRect box(QPoint(std::min(x1, x2), std::min(y1, y2)), QPoint(std::max(x1, x2) - 1, std::max(y1, y2) - 1));
+    if (y1 == y2)
+        box = QRect(box.x(), y1 - total / 2, box.width(), total);
+    else
+        box = QRect(x1 - total / 2, box.y(), total, box.height());
+    p->fillRect(inside(box, lineWidth), g.mid());
+    for (int i = 0; i < lineWidth; ++i)
+        drawRing(p, inside(box, i), sunken ? g.dark() : g.light(), sunken ? g.light() : g.dark());
 }
 
 void qDrawShadeLine(QPainter* p, const QPoint& p1, const QPoint& p2, const QColorGroup& g, bool sunken, int lineWidth, int midLineWidth)

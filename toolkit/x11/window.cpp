@@ -1,7 +1,11 @@
-// Windows of the server.
+// Windows.
 #include "x11/window.h"
 
+#include "x11/colors.h"
+#include "x11/gc.h"
 #include "x11/xlib.h"
+
+#include <X11/extensions/shape.h>
 
 namespace zeltk
 {
@@ -11,40 +15,29 @@ namespace x11
 namespace
 {
 
-const long childEvents = KeyPressMask | KeyReleaseMask | ButtonPressMask | ButtonReleaseMask |
-                         PointerMotionMask | EnterWindowMask | LeaveWindowMask | ExposureMask;
-const long topLevelEvents =
-    childEvents | FocusChangeMask | StructureNotifyMask | PropertyChangeMask | KeymapStateMask;
-
-unsigned positive(int length)
-{
-    return length > 0 ? static_cast<unsigned>(length) : 1u;
-}
+constexpr long commonEvents = KeyPressMask | KeyReleaseMask | ButtonPressMask | ButtonReleaseMask | PointerMotionMask | EnterWindowMask |
+                              LeaveWindowMask | ExposureMask | KeymapStateMask;
+constexpr long topLevelEvents = StructureNotifyMask | FocusChangeMask | PropertyChangeMask;
 
 } // namespace
 
-XId createWindow(const WindowSpec& spec)
+XId createWindow(XId parent, int x, int y, int width, int height, bool topLevel, bool popup)
 {
     XSetWindowAttributes attributes;
-    attributes.background_pixel = spec.backgroundPixel;
-    attributes.bit_gravity = spec.staticContents ? NorthWestGravity : ForgetGravity;
-    attributes.override_redirect = spec.overrideRedirect;
-    attributes.save_under = spec.saveUnder;
-    attributes.event_mask = spec.topLevel ? topLevelEvents : childEvents;
-    unsigned long mask = CWBackPixel | CWEventMask;
-    if (spec.staticContents)
-        mask |= CWBitGravity;
-    if (spec.overrideRedirect)
-        mask |= CWOverrideRedirect;
-    if (spec.saveUnder)
-        mask |= CWSaveUnder;
-    return XCreateWindow(display(), spec.parent, spec.box.x, spec.box.y, positive(spec.box.width),
-                         positive(spec.box.height), 0, CopyFromParent, InputOutput, CopyFromParent, mask,
-                         &attributes);
+    attributes.event_mask = commonEvents | (topLevel ? topLevelEvents : 0);
+    attributes.override_redirect = popup;
+    attributes.save_under = popup;
+    attributes.border_pixel = 0;
+    attributes.bit_gravity = ForgetGravity;
+    attributes.background_pixmap = XNone;
+    const unsigned long mask = CWEventMask | CWOverrideRedirect | CWSaveUnder | CWBorderPixel | CWBitGravity | CWBackPixmap;
+    return XCreateWindow(display(), parent, x, y, static_cast<unsigned>(width), static_cast<unsigned>(height), 0, CopyFromParent, InputOutput,
+                         CopyFromParent, mask, &attributes);
 }
 
 void destroyWindow(XId window)
 {
+    forgetDrawable(window);
     XDestroyWindow(display(), window);
 }
 
@@ -63,21 +56,24 @@ void withdrawWindow(XId window)
     XWithdrawWindow(display(), window, screen());
 }
 
-void iconifyWindow(XId window)
+void moveWindow(XId window, int x, int y)
 {
-    XIconifyWindow(display(), window, screen());
+    XMoveWindow(display(), window, x, y);
 }
 
-unsigned long moveResizeWindow(XId window, const Box& box, bool move, bool resize)
+void resizeWindow(XId window, int width, int height)
 {
-    const unsigned long serial = NextRequest(display());
-    if (move && resize)
-        XMoveResizeWindow(display(), window, box.x, box.y, positive(box.width), positive(box.height));
-    else if (move)
-        XMoveWindow(display(), window, box.x, box.y);
-    else
-        XResizeWindow(display(), window, positive(box.width), positive(box.height));
-    return serial;
+    XResizeWindow(display(), window, static_cast<unsigned>(width), static_cast<unsigned>(height));
+}
+
+void moveResizeWindow(XId window, int x, int y, int width, int height)
+{
+    XMoveResizeWindow(display(), window, x, y, static_cast<unsigned>(width), static_cast<unsigned>(height));
+}
+
+void reparentWindow(XId window, XId parent, int x, int y)
+{
+    XReparentWindow(display(), window, parent, x, y);
 }
 
 void raiseWindow(XId window)
@@ -90,70 +86,88 @@ void lowerWindow(XId window)
     XLowerWindow(display(), window);
 }
 
-// A window manager may have put frames round both; only it can restack these.
-void stackWindowUnder(XId window, XId sibling)
+void stackBelow(XId window, XId sibling)
 {
     XWindowChanges changes;
     changes.sibling = sibling;
-    changes.stack_mode = 1; // below the sibling
-    XReconfigureWMWindow(display(), window, screen(), CWSibling | CWStackMode, &changes);
+    changes.stack_mode = 1; // below
+    XConfigureWindow(display(), window, CWSibling | CWStackMode, &changes);
 }
 
-void setWindowBackground(XId window, unsigned long pixel)
+void setBackgroundColor(XId window, std::uint32_t rgb)
 {
-    XSetWindowBackground(display(), window, pixel);
+    XSetWindowBackground(display(), window, pixelOf(rgb));
 }
 
-void setWindowBackgroundPixmap(XId window, XId pixmap)
+void setBackgroundPixmap(XId window, XId pixmap)
 {
     XSetWindowBackgroundPixmap(display(), window, pixmap);
 }
 
-void unsetWindowBackground(XId window)
+void setNoBackground(XId window)
 {
     XSetWindowBackgroundPixmap(display(), window, XNone);
 }
 
-void setParentRelativeBackground(XId window)
+void setParentBackground(XId window)
 {
     XSetWindowBackgroundPixmap(display(), window, ParentRelative);
 }
 
-void clearWindowArea(XId window, const Box& box)
+void keepContents(XId window, bool keep)
 {
-    XClearArea(display(), window, box.x, box.y, positive(box.width), positive(box.height), False);
+    XSetWindowAttributes attributes;
+    attributes.bit_gravity = keep ? NorthWestGravity : ForgetGravity;
+    XChangeWindowAttributes(display(), window, CWBitGravity, &attributes);
 }
 
-bool framePlace(XId window, FramePlace* place)
+void clearArea(XId window, int x, int y, int width, int height)
 {
-    XId inner = window;
-    while (true) {
-        Window root = 0, parent = 0, *inside = nullptr;
-        unsigned count = 0;
-        if (!XQueryTree(display(), inner, &root, &parent, &inside, &count))
-            return false;
-        if (inside)
-            XFree(inside);
-        if (parent == root || parent == XNone)
-            break;
-        inner = parent;
+    XClearArea(display(), window, x, y, static_cast<unsigned>(width), static_cast<unsigned>(height), False);
+}
+
+// Parts that lie under other windows come as Expose events.
+void scrollWindow(XId window, int sx, int sy, int width, int height, int dx, int dy)
+{
+    static const GC gc = [] {
+        XGCValues values;
+        values.graphics_exposures = True;
+        return XCreateGC(display(), rootWindow(), GCGraphicsExposures, &values);
+    }();
+    XCopyArea(display(), window, window, gc, sx, sy, static_cast<unsigned>(width), static_cast<unsigned>(height), dx, dy);
+}
+
+void setShape(XId window, const std::vector<ClipRect>* shape)
+{
+    if (!shape) {
+        XShapeCombineMask(display(), window, ShapeBounding, 0, 0, XNone, ShapeSet);
+        return;
     }
-    Window root = 0, child = 0;
-    unsigned width = 0, height = 0, border = 0, depth = 0;
-    int x = 0, y = 0;
-    if (!XGetGeometry(display(), window, &root, &x, &y, &width, &height, &border, &depth))
-        return false;
-    if (!XTranslateCoordinates(display(), window, root, 0, 0, &x, &y, &child))
-        return false;
-    place->frameWindow = inner;
-    place->client = {x, y, static_cast<int>(width), static_cast<int>(height)};
-    place->frame = place->client;
-    if (inner == window)
-        return true;
-    if (!XGetGeometry(display(), inner, &root, &x, &y, &width, &height, &border, &depth))
-        return false;
-    place->frame = {x, y, static_cast<int>(width + 2 * border), static_cast<int>(height + 2 * border)};
-    return true;
+    std::vector<XRectangle> rects;
+    for (const ClipRect& r : *shape)
+        rects.push_back({static_cast<short>(r.x), static_cast<short>(r.y), static_cast<unsigned short>(r.width), static_cast<unsigned short>(r.height)});
+    XShapeCombineRectangles(display(), window, ShapeBounding, 0, 0, rects.data(), static_cast<int>(rects.size()), ShapeSet, XUnsorted);
+}
+
+bool rootPosition(XId window, int* x, int* y)
+{
+    Window child;
+    return XTranslateCoordinates(display(), window, rootWindow(), 0, 0, x, y, &child) != 0;
+}
+
+XId windowAt(int x, int y)
+{
+    Window at = rootWindow();
+    for (;;) {
+        Window child = XNone;
+        int wx;
+        int wy;
+        if (!XTranslateCoordinates(display(), rootWindow(), at, x, y, &wx, &wy, &child))
+            return 0;
+        if (child == XNone)
+            return at == rootWindow() ? 0 : at;
+        at = child;
+    }
 }
 
 } // namespace x11

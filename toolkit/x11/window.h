@@ -1,9 +1,11 @@
-// Windows of the server. None of these functions waits for the server, unless it says so.
+// Windows.
 #ifndef ZELTK_X11_WINDOW_H
 #define ZELTK_X11_WINDOW_H
 
 #include "x11/connection.h"
+#include "x11/fonts.h"
 
+#include <cstdint>
 #include <vector>
 
 namespace zeltk
@@ -11,54 +13,37 @@ namespace zeltk
 namespace x11
 {
 
-struct Box {
-    int x;
-    int y;
-    int width;
-    int height;
-};
-
-struct WindowSpec {
-    XId parent;
-    Box box;
-    bool topLevel;
-    bool overrideRedirect; // the window manager leaves it alone
-    bool saveUnder;        // the server may keep what it covers
-    bool staticContents;   // the upper left part survives when its size changes
-    unsigned long backgroundPixel;
-};
-
-XId createWindow(const WindowSpec& spec);
-// With all windows inside it.
+// Its events are reported. `popup`: the window manager leaves it alone.
+XId createWindow(XId parent, int x, int y, int width, int height, bool topLevel, bool popup);
 void destroyWindow(XId window);
-
 void mapWindow(XId window);
 void unmapWindow(XId window);
-// Also tells the window manager that it shall forget the window.
+// A top-level window goes away; its window manager is told.
 void withdrawWindow(XId window);
-void iconifyWindow(XId window);
-
-// Number of the request, which the server repeats in the event that confirms it.
-unsigned long moveResizeWindow(XId window, const Box& box, bool move, bool resize);
+void moveWindow(XId window, int x, int y);
+void resizeWindow(XId window, int width, int height);
+void moveResizeWindow(XId window, int x, int y, int width, int height);
+void reparentWindow(XId window, XId parent, int x, int y);
 void raiseWindow(XId window);
 void lowerWindow(XId window);
-void stackWindowUnder(XId window, XId sibling);
+// Right below the sibling.
+void stackBelow(XId window, XId sibling);
 
-void setWindowBackground(XId window, unsigned long pixel);
-void setWindowBackgroundPixmap(XId window, XId pixmap);
-// Nothing is cleared any more.
-void unsetWindowBackground(XId window);
-void setParentRelativeBackground(XId window);
-void clearWindowArea(XId window, const Box& box);
+void setBackgroundColor(XId window, std::uint32_t rgb);
+void setBackgroundPixmap(XId window, XId pixmap);
+void setNoBackground(XId window);
+void setParentBackground(XId window);
+// Whether the contents stay at the upper left when the size changes, or are lost.
+void keepContents(XId window, bool keep);
+// Paints the background without an Expose event. Width and height must be positive.
+void clearArea(XId window, int x, int y, int width, int height);
+void scrollWindow(XId window, int sx, int sy, int width, int height, int dx, int dy);
+void setShape(XId window, const std::vector<ClipRect>* shape);
 
-// The client area of a top-level window on the screen, and the window inside the root that holds it: the
-// window manager's frame, or the window itself. Waits for the server.
-struct FramePlace {
-    XId frameWindow;
-    Box client;
-    Box frame;
-};
-bool framePlace(XId window, FramePlace* place);
+// Asks the server for the place of the window's corner on the screen.
+bool rootPosition(XId window, int* x, int* y);
+// The innermost window at a place of the screen, 0 for the root.
+XId windowAt(int x, int y);
 
 } // namespace x11
 } // namespace zeltk

@@ -1,0 +1,125 @@
+// The one connection to the X server.
+#include "x11/connection.h"
+
+#include "x11/errors.h"
+#include "x11/xlib.h"
+
+#include <map>
+
+namespace zeltk
+{
+namespace x11
+{
+
+namespace
+{
+
+Display* server = nullptr;
+
+// Dots per inch from the size that the server tells, rounded.
+int dotsPerInch(int pixels, int millimetres)
+{
+    return millimetres > 0 ? (pixels * 254 + millimetres * 5) / (millimetres * 10) : 75;
+}
+
+std::map<std::string, Atom>& atoms()
+{
+    static std::map<std::string, Atom> known;
+    return known;
+}
+
+} // namespace
+
+bool openConnection(const std::string& name)
+{
+    server = XOpenDisplay(name.empty() ? nullptr : name.c_str());
+    if (server)
+        watchErrors();
+    return server != nullptr;
+}
+
+void closeConnection()
+{
+    if (server)
+        XCloseDisplay(server);
+    server = nullptr;
+    atoms().clear();
+}
+
+bool connected()
+{
+    return server != nullptr;
+}
+
+_XDisplay* display()
+{
+    return server;
+}
+
+std::string displayName()
+{
+    return server ? DisplayString(server) : XDisplayName(nullptr);
+}
+
+int screen()
+{
+    return DefaultScreen(server);
+}
+
+XId rootWindow()
+{
+    return DefaultRootWindow(server);
+}
+
+int screenWidth()
+{
+    return DisplayWidth(server, screen());
+}
+
+int screenHeight()
+{
+    return DisplayHeight(server, screen());
+}
+
+int dpiX()
+{
+    return server ? dotsPerInch(screenWidth(), DisplayWidthMM(server, screen())) : 75;
+}
+
+int dpiY()
+{
+    return server ? dotsPerInch(screenHeight(), DisplayHeightMM(server, screen())) : 75;
+}
+
+int depth()
+{
+    return DefaultDepth(server, screen());
+}
+
+int connectionFd()
+{
+    return ConnectionNumber(server);
+}
+
+void flush()
+{
+    if (server)
+        XFlush(server);
+}
+
+void sync()
+{
+    if (server)
+        XSync(server, False);
+}
+
+XId atom(const char* name)
+{
+    const auto found = atoms().find(name);
+    if (found != atoms().end())
+        return found->second;
+    return atoms()[name] = XInternAtom(server, name, False);
+}
+
+} // namespace x11
+} // namespace zeltk

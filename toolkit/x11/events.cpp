@@ -1,0 +1,236 @@
+// Events of the X server in plain form.
+#include "x11/events.h"
+
+#include "x11/xlib.h"
+
+#include <X11/XKBlib.h>
+
+namespace zeltk
+{
+namespace x11
+{
+
+namespace
+{
+
+unsigned long latest = 0;
+
+void noteTime(unsigned long time, Event* event)
+{
+    event->time = time;
+    if (time)
+        latest = time;
+}
+
+// A held key sends a release and a press of the same time over and over.
+bool isRepeat(const XKeyEvent& key)
+{
+    if (key.type != XKeyRelease || !XEventsQueued(display(), QueuedAfterReading))
+        return false;
+    XEvent next;
+    XPeekEvent(display(), &next);
+    return next.type == XKeyPress && next.xkey.keycode == key.keycode && next.xkey.window == key.window && next.xkey.time - key.time < 2;
+}
+
+std::string utf8FromLatin1(const char* text, int length)
+{
+    std::string result;
+    for (int i = 0; i < length; ++i) {
+        const unsigned char c = static_cast<unsigned char>(text[i]);
+        if (c < 0x80) {
+            result += static_cast<char>(c);
+        } else {
+            result += static_cast<char>(0xc0 | c >> 6);
+            result += static_cast<char>(0x80 | (c & 0x3f));
+        }
+    }
+    return result;
+}
+
+void readKey(XKeyEvent* key, Event* event)
+{
+    static unsigned repeating = 0; // code of the key that is held
+    event->type = key->type == XKeyPress ? Event::KeyDown : Event::KeyUp;
+    noteTime(key->time, event);
+    event->state = key->state;
+    event->rootX = key->x_root;
+    event->rootY = key->y_root;
+    char text[64];
+    KeySym symbol = 0;
+    const int length = XLookupString(key, text, sizeof text, &symbol, nullptr);
+    event->keysym = symbol;
+    event->text = utf8FromLatin1(text, length);
+    if (key->type == XKeyRelease) {
+        event->autoRepeat = isRepeat(*key);
+        repeating = event->autoRepeat ? key->keycode : 0;
+    } else {
+        event->autoRepeat = repeating == key->keycode;
+        repeating = 0;
+    }
+}
+
+void readButton(const XButtonEvent& button, Event* event)
+{
+    event->type = button.type == ButtonPress ? Event::ButtonDown : Event::ButtonUp;
+    noteTime(button.time, event);
+    event->x = button.x;
+    event->y = button.y;
+    event->rootX = button.x_root;
+    event->rootY = button.y_root;
+    event->state = button.state;
+    event->button = button.button;
+}
+
+void readMotion(const XMotionEvent& motion, Event* event)
+{
+    event->type = Event::Motion;
+    noteTime(motion.time, event);
+    event->x = motion.x;
+    event->y = motion.y;
+    event->rootX = motion.x_root;
+    event->rootY = motion.y_root;
+    event->state = motion.state;
+}
+
+void readCrossing(const XCrossingEvent& crossing, Event* event)
+{
+    event->type = crossing.type == EnterNotify ? Event::EnterWindow : Event::LeaveWindow;
+    noteTime(crossing.time, event);
+    event->x = crossing.x;
+    event->y = crossing.y;
+    event->rootX = crossing.x_root;
+    event->rootY = crossing.y_root;
+    event->state = crossing.state;
+    event->byGrab = crossing.mode != NotifyNormal;
+    event->inferior = crossing.detail == NotifyInferior;
+}
+
+void readFocus(const XFocusChangeEvent& focus, Event* event)
+{
+    if (focus.detail == NotifyPointer || focus.detail == NotifyPointerRoot || focus.detail == NotifyDetailNone ||
+        focus.detail == NotifyInferior)
+        return;
+    event->type = focus.type == XFocusIn ? Event::FocusGained : Event::FocusLost;
+    event->byGrab = focus.mode == NotifyGrab || focus.mode == NotifyUngrab;
+}
+
+void readConfigure(const XConfigureEvent& configure, Event* event)
+{
+    if (configure.event != configure.window)
+        return;
+    event->type = Event::Configured;
+    event->x = configure.x;
+    event->y = configure.y;
+    event->width = configure.width;
+    event->height = configure.height;
+    event->synthetic = configure.send_event != 0;
+}
+
+void readMessage(const XClientMessageEvent& message, Event* event)
+{
+    if (message.message_type != atom("WM_PROTOCOLS") || message.format != 32)
+        return;
+    const Atom protocol = static_cast<Atom>(message.data.l[0]);
+    noteTime(static_cast<unsigned long>(message.data.l[1]), event);
+    if (protocol == atom("WM_DELETE_WINDOW"))
+        event->type = Event::CloseRequest;
+    else if (protocol == atom("_NET_WM_PING"))
+        event->type = Event::Ping;
+}
+
+void translate(XEvent* x, Event* event)
+{
+    event->window = x->xany.window;
+    switch (x->type) {
+    case XKeyPress:
+    case XKeyRelease:
+        readKey(&x->xkey, event);
+        break;
+    case ButtonPress:
+    case ButtonRelease:
+        readButton(x->xbutton, event);
+        break;
+    case MotionNotify:
+        readMotion(x->xmotion, event);
+        break;
+    case EnterNotify:
+    case LeaveNotify:
+        readCrossing(x->xcrossing, event);
+        break;
+    case XFocusIn:
+    case XFocusOut:
+        readFocus(x->xfocus, event);
+        break;
+    case Expose:
+    case GraphicsExpose:
+        event->type = Event::Exposed;
+        event->x = x->xexpose.x;
+        event->y = x->xexpose.y;
+        event->width = x->xexpose.width;
+        event->height = x->xexpose.height;
+        event->count = x->xexpose.count;
+        break;
+    case ConfigureNotify:
+        readConfigure(x->xconfigure, event);
+        break;
+    case MapNotify:
+        event->type = x->xmap.event == x->xmap.window ? Event::Mapped : Event::Other;
+        break;
+    case UnmapNotify:
+        event->type = x->xunmap.event == x->xunmap.window ? Event::Unmapped : Event::Other;
+        break;
+    case ReparentNotify:
+        event->type = x->xreparent.event == x->xreparent.window ? Event::Reparented : Event::Other;
+        break;
+    case PropertyNotify:
+        noteTime(x->xproperty.time, event);
+        break;
+    case MappingNotify:
+        XRefreshKeyboardMapping(&x->xmapping);
+        break;
+    case ClientMessage:
+        readMessage(x->xclient, event);
+        break;
+    default:
+        break;
+    }
+}
+
+} // namespace
+
+bool eventsPending()
+{
+    return XPending(display()) > 0;
+}
+
+bool nextEvent(Event* event)
+{
+    if (!eventsPending())
+        return false;
+    XEvent x;
+    XNextEvent(display(), &x);
+    *event = Event();
+    if (!XFilterEvent(&x, XNone))
+        translate(&x, event);
+    return true;
+}
+
+void compressMotion(Event* event)
+{
+    while (XEventsQueued(display(), QueuedAlready) > 0) {
+        XEvent next;
+        XPeekEvent(display(), &next);
+        if (next.type != MotionNotify || next.xmotion.window != event->window || next.xmotion.state != event->state)
+            return;
+        XNextEvent(display(), &next);
+        readMotion(next.xmotion, event);
+    }
+}
+
+unsigned long lastTime()
+{
+    return latest;
+}
+
+} // namespace x11
+} // namespace zeltk
