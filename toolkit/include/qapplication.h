@@ -3,6 +3,7 @@
 #define QAPPLICATION_H
 
 #include <qdesktopwidget.h>
+#include <qevent.h>
 #include <qfont.h>
 #include <qfontmetrics.h>
 #include <qnamespace.h>
@@ -19,6 +20,11 @@ class QEventLoop;
 class QTranslator;
 class QWidget;
 class QWidgetList;
+
+namespace zeltk
+{
+struct ApplicationAccess;
+}
 
 //! The one application object, or null.
 extern Q_EXPORT QApplication* qApp;
@@ -135,11 +141,10 @@ protected:
 
 private:
     void construct(int& argc, char** argv, Type type);
+    friend struct zeltk::ApplicationAccess;
 
     QApplication(const QApplication&);
     QApplication& operator=(const QApplication&);
-    friend class QEventLoop;
-    friend class QWidget;
 };
 
 #endif

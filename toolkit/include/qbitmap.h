@@ -9,7 +9,8 @@ class Q_EXPORT QBitmap : public QPixmap
 public:
     QBitmap();
     QBitmap(int w, int h, bool clear = false, QPixmap::Optimization optimization = QPixmap::DefaultOptim);
-    QBitmap(const QSize& size, bool clear = false, QPixmap::Optimization optimization = QPixmap::DefaultOptim);
+    QBitmap(const QSize& size, bool clear = false,
+            QPixmap::Optimization optimization = QPixmap::DefaultOptim);
     //! Rows of whole bytes; in XBM data the lowest bit is the leftmost.
     QBitmap(int w, int h, const uchar* bits, bool isXbitmap = false);
     QBitmap(const QSize& size, const uchar* bits, bool isXbitmap = false);

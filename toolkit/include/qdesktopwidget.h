@@ -1,11 +1,10 @@
-// The desktop: the screen behind all windows.
+// The screen.
 #ifndef QDESKTOPWIDGET_H
 #define QDESKTOPWIDGET_H
 
-#include <qrect.h>
 #include <qwidget.h>
 
-//! The root window as a widget, with the geometry of the screen. QApplication::desktop() gives it.
+//! A widget as large as the screen; QApplication::desktop() makes it.
 class Q_EXPORT QDesktopWidget : public QWidget
 {
     Q_OBJECT
@@ -14,28 +13,14 @@ public:
     QDesktopWidget();
     ~QDesktopWidget();
 
-    bool isVirtualDesktop() const;
-    int numScreens() const;
-    int primaryScreen() const;
-    int screenNumber(QWidget* widget = 0) const;
-    int screenNumber(const QPoint& point) const;
+    bool isVirtualDesktop() const { return false; }
+    int numScreens() const { return 1; }
+    int primaryScreen() const { return 0; }
     QWidget* screen(int screen = -1);
-
     const QRect& screenGeometry(int screen = -1) const;
-    const QRect& screenGeometry(QWidget* widget) const;
-    const QRect& screenGeometry(const QPoint& point) const;
-    //! Without the panels that a window manager reserves room for.
-    const QRect& availableGeometry(int screen = -1) const;
-    const QRect& availableGeometry(QWidget* widget) const;
-    const QRect& availableGeometry(const QPoint& point) const;
-
-signals:
-    void resized(int screen);
-    void workAreaResized(int screen);
 
 private:
-    QRect m_screen;
-    mutable QRect m_available;
+    QRect area;
 
     QDesktopWidget(const QDesktopWidget&);
     QDesktopWidget& operator=(const QDesktopWidget&);

@@ -157,7 +157,8 @@ class Q_EXPORT QWheelEvent : public QEvent
 {
 public:
     QWheelEvent(const QPoint& pos, int delta, int state, Orientation orientation = Vertical);
-    QWheelEvent(const QPoint& pos, const QPoint& globalPos, int delta, int state, Orientation orientation = Vertical)
+    QWheelEvent(const QPoint& pos, const QPoint& globalPos, int delta, int state,
+                Orientation orientation = Vertical)
         : QEvent(Wheel), p(pos), g(globalPos), d(delta), s((ushort)state), accepted(true), o(orientation)
     {
     }
@@ -187,10 +188,10 @@ protected:
 class Q_EXPORT QKeyEvent : public QEvent
 {
 public:
-    QKeyEvent(Type type, int key, int ascii, int state, const QString& text = QString::null, bool autorep = false,
-              ushort count = 1)
-        : QEvent(type), txt(text), k((ushort)key), s((ushort)state), a((uchar)ascii), accepted(true), autor(autorep),
-          c(count)
+    QKeyEvent(Type type, int key, int ascii, int state, const QString& text = QString::null,
+              bool autorep = false, ushort count = 1)
+        : QEvent(type), txt(text), k((ushort)key), s((ushort)state), a((uchar)ascii), accepted(true),
+          autor(autorep), c(count)
     {
     }
     int key() const { return k; }
@@ -310,7 +311,8 @@ public:
     enum Reason { Mouse, Keyboard, Other };
 
     QContextMenuEvent(Reason reason, const QPoint& pos, const QPoint& globalPos, int state)
-        : QEvent(ContextMenu), p(pos), gp(globalPos), accepted(true), consumed(true), reas(reason), s((ushort)state)
+        : QEvent(ContextMenu), p(pos), gp(globalPos), accepted(true), consumed(true), reas(reason),
+          s((ushort)state)
     {
     }
     const QPoint& pos() const { return p; }

@@ -37,7 +37,7 @@ public:
     virtual int enterLoop();
     virtual void exitLoop();
     virtual int loopLevel() const;
-    //! Lets a waiting loop go round once more. May be called from any thread.
+    //! Lets a waiting loop go round once more.
     virtual void wakeUp();
 
 signals:
@@ -45,8 +45,7 @@ signals:
     void aboutToBlock();
 
 private:
-    bool handleEvents(ProcessEventsFlags flags);
-    bool waitForEvents(ProcessEventsFlags flags, bool block);
+    void waitForEvents();
 
     zeltk::EventLoopState* d;
 

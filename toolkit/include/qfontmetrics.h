@@ -35,8 +35,8 @@ public:
     QRect boundingRect(const QString& text, int length = -1) const;
     QRect boundingRect(QChar c) const;
     //! The place of a text in a rectangle, with Qt::AlignmentFlags and Qt::TextFlags.
-    QRect boundingRect(int x, int y, int w, int h, int flags, const QString& text, int length = -1, int tabStops = 0,
-                       int* tabArray = 0) const;
+    QRect boundingRect(int x, int y, int w, int h, int flags, const QString& text, int length = -1,
+                       int tabStops = 0, int* tabArray = 0) const;
     QSize size(int flags, const QString& text, int length = -1, int tabStops = 0, int* tabArray = 0) const;
 
     int underlinePos() const;

@@ -23,8 +23,9 @@ class Q_EXPORT QMetaObject
 {
 public:
     QMetaObject(const char* className, QMetaObject* superClass, const QMetaData* slotData, int slotCount,
-                const QMetaData* signalData, int signalCount, const QMetaProperty* properties, int propertyCount,
-                const QMetaEnum* enums, int enumCount, const QClassInfo* classInfo, int classInfoCount);
+                const QMetaData* signalData, int signalCount, const QMetaProperty* properties,
+                int propertyCount, const QMetaEnum* enums, int enumCount, const QClassInfo* classInfo,
+                int classInfoCount);
     virtual ~QMetaObject();
 
     const char* className() const { return name; }

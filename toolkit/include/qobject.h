@@ -77,13 +77,15 @@ public:
 
     //! `member` is a slot or a signal; it may take fewer arguments than the signal has. False, with a
     //! warning, if they do not exist or do not fit.
-    static bool connect(const QObject* sender, const char* signal, const QObject* receiver, const char* member);
+    static bool connect(const QObject* sender, const char* signal, const QObject* receiver,
+                        const char* member);
     bool connect(const QObject* sender, const char* signal, const char* member) const
     {
         return connect(sender, signal, this, member);
     }
     //! Null stands for any signal, receiver or member. False if there was nothing to disconnect.
-    static bool disconnect(const QObject* sender, const char* signal, const QObject* receiver, const char* member);
+    static bool disconnect(const QObject* sender, const char* signal, const QObject* receiver,
+                           const char* member);
     bool disconnect(const char* signal = 0, const QObject* receiver = 0, const char* member = 0)
     {
         return disconnect(this, signal, receiver, member);
@@ -92,7 +94,6 @@ public:
     {
         return disconnect(this, 0, receiver, member);
     }
-
 
     QObject* parent() const;
 
@@ -130,6 +131,5 @@ private:
     QObject(const QObject&);
     QObject& operator=(const QObject&);
 };
-
 
 #endif

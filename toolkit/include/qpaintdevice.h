@@ -45,12 +45,13 @@ private:
     QPaintDevice& operator=(const QPaintDevice&);
 };
 
-//! Copies pixels between devices. A negative width or height means: up to the source's edge. Not clipped to paint
-//! events. The pixmap's mask is respected unless `ignoreMask`.
-Q_EXPORT void bitBlt(QPaintDevice* dst, int dx, int dy, const QPaintDevice* src, int sx = 0, int sy = 0, int sw = -1,
-                     int sh = -1, Qt::RasterOp rop = Qt::CopyROP, bool ignoreMask = false);
-inline void bitBlt(QPaintDevice* dst, const QPoint& dp, const QPaintDevice* src, const QRect& sr = QRect(0, 0, -1, -1),
-                   Qt::RasterOp rop = Qt::CopyROP, bool ignoreMask = false)
+//! Copies pixels between devices. A negative width or height means: up to the source's edge. Not clipped to
+//! paint events. The pixmap's mask is respected unless `ignoreMask`.
+Q_EXPORT void bitBlt(QPaintDevice* dst, int dx, int dy, const QPaintDevice* src, int sx = 0, int sy = 0,
+                     int sw = -1, int sh = -1, Qt::RasterOp rop = Qt::CopyROP, bool ignoreMask = false);
+inline void bitBlt(QPaintDevice* dst, const QPoint& dp, const QPaintDevice* src,
+                   const QRect& sr = QRect(0, 0, -1, -1), Qt::RasterOp rop = Qt::CopyROP,
+                   bool ignoreMask = false)
 {
     bitBlt(dst, dp.x(), dp.y(), src, sr.x(), sr.y(), sr.width(), sr.height(), rop, ignoreMask);
 }

@@ -24,9 +24,9 @@ struct PainterData;
 /*!
  * \brief Draws on a widget or a pixmap.
  *
- * On a widget it begins with the widget's font and colours; inside a paint event it is clipped to the event's region.
- * Rectangles cover exactly their width and height, the outline included; lines include both ends. Negative widths and
- * heights are mirrored.
+ * On a widget it begins with the widget's font and colours; inside a paint event it is clipped to the event's
+ * region. Rectangles cover exactly their width and height, the outline included; lines include both ends.
+ * Negative widths and heights are mirrored.
  */
 class Q_EXPORT QPainter : public Qt
 {
@@ -163,7 +163,10 @@ public:
     void drawTiledPixmap(const QRect& r, const QPixmap& pixmap) { drawTiledPixmap(r, pixmap, QPoint()); }
 
     void fillRect(int x, int y, int w, int h, const QBrush& brush);
-    void fillRect(const QRect& r, const QBrush& brush) { fillRect(r.x(), r.y(), r.width(), r.height(), brush); }
+    void fillRect(const QRect& r, const QBrush& brush)
+    {
+        fillRect(r.x(), r.y(), r.width(), r.height(), brush);
+    }
     void eraseRect(int x, int y, int w, int h);
     void eraseRect(const QRect& r) { eraseRect(r.x(), r.y(), r.width(), r.height()); }
 
@@ -175,9 +178,10 @@ public:
     {
         drawText(p.x(), p.y(), text, length, direction);
     }
-    void drawText(int x, int y, const QString& text, int position, int length, TextDirection direction = Auto);
-    //! Placed in the rectangle by Qt::AlignmentFlags and Qt::TextFlags, and clipped to it. `boundingRect` receives what
-    //! the text takes up.
+    void drawText(int x, int y, const QString& text, int position, int length,
+                  TextDirection direction = Auto);
+    //! Placed in the rectangle by Qt::AlignmentFlags and Qt::TextFlags, and clipped to it. `boundingRect`
+    //! receives what the text takes up.
     void drawText(int x, int y, int w, int h, int flags, const QString& text, int length = -1,
                   QRect* boundingRect = 0);
     void drawText(const QRect& r, int flags, const QString& text, int length = -1, QRect* boundingRect = 0)

@@ -58,7 +58,8 @@ public:
     {
         return findMessage(context, sourceText, comment).translation();
     }
-    virtual QTranslatorMessage findMessage(const char* context, const char* sourceText, const char* comment) const;
+    virtual QTranslatorMessage findMessage(const char* context, const char* sourceText,
+                                           const char* comment) const;
 
     void clear();
     void insert(const QTranslatorMessage& message);
@@ -67,7 +68,10 @@ public:
         insert(QTranslatorMessage(context, sourceText, "", translation));
     }
     void remove(const QTranslatorMessage& message);
-    void remove(const char* context, const char* sourceText) { remove(QTranslatorMessage(context, sourceText, "")); }
+    void remove(const char* context, const char* sourceText)
+    {
+        remove(QTranslatorMessage(context, sourceText, ""));
+    }
     bool contains(const char* context, const char* sourceText, const char* comment = 0) const
     {
         return !find(context, sourceText, comment).isNull();

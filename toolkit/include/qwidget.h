@@ -1,7 +1,8 @@
-// The base of everything that is seen on the screen.
+// The base of everything on the screen.
 #ifndef QWIDGET_H
 #define QWIDGET_H
 
+#include <qcursor.h>
 #include <qfont.h>
 #include <qfontinfo.h>
 #include <qfontmetrics.h>
@@ -10,7 +11,6 @@
 #include <qpalette.h>
 #include <qregion.h>
 #include <qsizepolicy.h>
-#include <qwindowdefs.h>
 
 class QCloseEvent;
 class QContextMenuEvent;
@@ -20,23 +20,29 @@ class QKeyEvent;
 class QMouseEvent;
 class QMoveEvent;
 class QPaintEvent;
+class QPixmap;
 class QResizeEvent;
 class QShowEvent;
 class QWheelEvent;
 
 namespace zeltk
 {
-struct WidgetAccess;
 struct WidgetData;
+struct WidgetAccess;
 } // namespace zeltk
 
-//! A rectangle on the screen that paints itself and hears mouse and keyboard. Without a parent, or with a
-//! flag that says so, it is a window of its own; else it lies inside its parent, clipped by it.
+/*!
+ * \brief A rectangle of the screen that paints itself and hears the mouse and the keyboard.
+ *
+ * Without parent it is a window of its own. A new child is 100 x 30 pixels at (0, 0); a window starts centred
+ * with a quarter of the screen's area.
+ */
 class Q_EXPORT QWidget : public QObject, public QPaintDevice
 {
     Q_OBJECT
 
 public:
+    enum BackgroundOrigin { WidgetOrigin, ParentOrigin, WindowOrigin, AncestorOrigin };
     enum FocusPolicy {
         NoFocus = 0,
         TabFocus = 0x1,
@@ -44,131 +50,104 @@ public:
         StrongFocus = TabFocus | ClickFocus | 0x8,
         WheelFocus = StrongFocus | 0x4
     };
-    enum BackgroundOrigin { WidgetOrigin, ParentOrigin, WindowOrigin, AncestorOrigin };
 
-    QWidget(QWidget* parent = 0, const char* name = 0, WFlags f = 0);
+    explicit QWidget(QWidget* parent = 0, const char* name = 0, WFlags f = 0);
     ~QWidget();
 
-    WId winId() const;
-    static QWidget* find(WId id);
+    WId winId() const { return hd; }
+    virtual void setName(const char* name);
 
-    // Kind and state
-    bool isTopLevel() const;
-    bool isDialog() const;
-    bool isPopup() const;
-    bool isDesktop() const;
+    //! Null and none for children; see Qt::WidgetFlags.
+    bool isTopLevel() const { return testWFlags(WType_TopLevel); }
+    bool isDialog() const { return testWFlags(WType_Dialog); }
+    bool isPopup() const { return testWFlags(WType_Popup); }
+    bool isDesktop() const { return testWFlags(WType_Desktop); }
     bool isModal() const;
-    bool isEnabled() const;
-    bool isEnabledTo(QWidget* ancestor) const;
-    bool isEnabledToTLW() const;
-    WFlags testWFlags(WFlags flags) const;
-    WState testWState(WState states) const;
-    QWidget* topLevelWidget() const;
-    //! `sameWindow`: null for windows of their own.
-    QWidget* parentWidget(bool sameWindow = false) const;
 
-    // Geometry. Top-level windows: relative to the screen; others: to the parent.
+    bool isEnabled() const { return !testWState(WState_Disabled); }
+    bool isEnabledTo(QWidget* ancestor) const;
+
     QRect frameGeometry() const;
-    QSize frameSize() const;
     const QRect& geometry() const;
     int x() const;
     int y() const;
     QPoint pos() const;
-    QSize size() const;
-    int width() const;
-    int height() const;
-    QRect rect() const;
+    QSize frameSize() const;
+    QSize size() const { return geometry().size(); }
+    int width() const { return geometry().width(); }
+    int height() const { return geometry().height(); }
+    QRect rect() const { return QRect(0, 0, width(), height()); }
     QRect childrenRect() const;
     QRegion childrenRegion() const;
 
     QSize minimumSize() const;
     QSize maximumSize() const;
-    int minimumWidth() const;
-    int minimumHeight() const;
-    int maximumWidth() const;
-    int maximumHeight() const;
-    void setMinimumSize(const QSize& size);
-    virtual void setMinimumSize(int width, int height);
-    void setMaximumSize(const QSize& size);
-    virtual void setMaximumSize(int width, int height);
-    void setMinimumWidth(int width);
-    void setMinimumHeight(int height);
-    void setMaximumWidth(int width);
-    void setMaximumHeight(int height);
+    int minimumWidth() const { return minimumSize().width(); }
+    int minimumHeight() const { return minimumSize().height(); }
+    int maximumWidth() const { return maximumSize().width(); }
+    int maximumHeight() const { return maximumSize().height(); }
+    void setMinimumSize(const QSize& s) { setMinimumSize(s.width(), s.height()); }
+    virtual void setMinimumSize(int minw, int minh);
+    void setMaximumSize(const QSize& s) { setMaximumSize(s.width(), s.height()); }
+    virtual void setMaximumSize(int maxw, int maxh);
+    void setMinimumWidth(int minw);
+    void setMinimumHeight(int minh);
+    void setMaximumWidth(int maxw);
+    void setMaximumHeight(int maxh);
     QSize sizeIncrement() const;
-    void setSizeIncrement(const QSize& size);
-    virtual void setSizeIncrement(int width, int height);
+    void setSizeIncrement(const QSize& s) { setSizeIncrement(s.width(), s.height()); }
+    virtual void setSizeIncrement(int w, int h);
     QSize baseSize() const;
-    void setBaseSize(const QSize& size);
-    void setBaseSize(int width, int height);
-    void setFixedSize(const QSize& size);
-    void setFixedSize(int width, int height);
-    void setFixedWidth(int width);
-    void setFixedHeight(int height);
+    void setBaseSize(const QSize& s) { setBaseSize(s.width(), s.height()); }
+    void setBaseSize(int basew, int baseh);
+    void setFixedSize(const QSize& s) { setFixedSize(s.width(), s.height()); }
+    void setFixedSize(int w, int h);
+    void setFixedWidth(int w);
+    void setFixedHeight(int h);
 
-    virtual QSize sizeHint() const;
-    virtual QSize minimumSizeHint() const;
-    virtual QSizePolicy sizePolicy() const;
-    virtual void setSizePolicy(QSizePolicy policy);
-    void setSizePolicy(QSizePolicy::SizeType horizontal, QSizePolicy::SizeType vertical,
-                       bool heightForWidth = false);
-    virtual int heightForWidth(int width) const;
-    //! Tells the layout that the hints have changed.
-    void updateGeometry();
+    QPoint mapToGlobal(const QPoint& p) const;
+    QPoint mapFromGlobal(const QPoint& p) const;
+    QPoint mapToParent(const QPoint& p) const;
+    QPoint mapFromParent(const QPoint& p) const;
+    QPoint mapTo(QWidget* ancestor, const QPoint& p) const;
+    QPoint mapFrom(QWidget* ancestor, const QPoint& p) const;
 
-    // Coordinates
-    QPoint mapToGlobal(const QPoint& pos) const;
-    QPoint mapFromGlobal(const QPoint& pos) const;
-    QPoint mapToParent(const QPoint& pos) const;
-    QPoint mapFromParent(const QPoint& pos) const;
-    QPoint mapTo(QWidget* ancestor, const QPoint& pos) const;
-    QPoint mapFrom(QWidget* ancestor, const QPoint& pos) const;
-    //! The innermost visible child there.
-    QWidget* childAt(int x, int y, bool includeThis = false) const;
-    QWidget* childAt(const QPoint& pos, bool includeThis = false) const;
-    //! What of the widget its ancestors let see.
-    QRect visibleRect() const;
-    //! The same without what children and higher siblings cover.
-    QRegion clipRegion() const;
+    QWidget* topLevelWidget() const;
 
-    // Looks
     BackgroundMode backgroundMode() const;
     virtual void setBackgroundMode(BackgroundMode mode);
-    //! `visual`: the mode whose colours the widget really paints with.
-    void setBackgroundMode(BackgroundMode mode, BackgroundMode visual);
+    //! Paints with the first; paletteBackgroundColor() and its like mean the second.
+    void setBackgroundMode(BackgroundMode mode, BackgroundMode visualMode);
     const QColor& foregroundColor() const;
     const QColor& eraseColor() const;
     virtual void setEraseColor(const QColor& color);
     const QPixmap* erasePixmap() const;
     virtual void setErasePixmap(const QPixmap& pixmap);
-    const QColor& backgroundColor() const;
-    virtual void setBackgroundColor(const QColor& color);
-    const QPixmap* backgroundPixmap() const;
-    virtual void setBackgroundPixmap(const QPixmap& pixmap);
-    QBrush backgroundBrush() const;
-    BackgroundOrigin backgroundOrigin() const;
-    virtual void setBackgroundOrigin(BackgroundOrigin origin);
-    QPoint backgroundOffset() const;
 
-    //! The group of the palette that applies now.
     const QColorGroup& colorGroup() const;
     const QPalette& palette() const;
     bool ownPalette() const;
     virtual void setPalette(const QPalette& palette);
-    void setPalette(const QPalette& palette, bool fixed);
     void unsetPalette();
     const QColor& paletteForegroundColor() const;
     void setPaletteForegroundColor(const QColor& color);
     const QColor& paletteBackgroundColor() const;
-    //! Sets the role of the background mode. The palette is the widget's own from then on.
+    //! Sets the role of the background mode in a palette of the widget's own.
     virtual void setPaletteBackgroundColor(const QColor& color);
     const QPixmap* paletteBackgroundPixmap() const;
     virtual void setPaletteBackgroundPixmap(const QPixmap& pixmap);
+    const QColor& backgroundColor() const { return eraseColor(); }
+    virtual void setBackgroundColor(const QColor& color) { setEraseColor(color); }
+    const QPixmap* backgroundPixmap() const { return erasePixmap(); }
+    virtual void setBackgroundPixmap(const QPixmap& pixmap) { setErasePixmap(pixmap); }
+    BackgroundOrigin backgroundOrigin() const;
+    virtual void setBackgroundOrigin(BackgroundOrigin origin);
+    QPoint backgroundOffset() const;
 
     QFont font() const;
     bool ownFont() const;
     virtual void setFont(const QFont& font);
-    void setFont(const QFont& font, bool fixed);
+    virtual void setFont(const QFont& font, bool) { setFont(font); }
     void unsetFont();
     QFontMetrics fontMetrics() const;
     QFontInfo fontInfo() const;
@@ -178,31 +157,27 @@ public:
     virtual void setCursor(const QCursor& cursor);
     virtual void unsetCursor();
 
-    // Window properties
     QString caption() const;
     const QPixmap* icon() const;
     QString iconText() const;
+    bool hasMouseTracking() const { return testWState(WState_MouseTracking); }
+    //! Whether the pointer is in the widget or in one of its children.
+    bool hasMouse() const { return testWState(WState_HasMouse); }
+
+    virtual void setMask(const QRegion& region);
+    void clearMask();
+
     bool isActiveWindow() const;
     virtual void setActiveWindow();
-    bool isMinimized() const;
-    bool isMaximized() const;
-    bool isFullScreen() const;
-    //! Bits of Qt::WindowState.
-    uint windowState() const;
-    void setWindowState(uint state);
-
-    // Mouse and keyboard
-    bool hasMouseTracking() const;
-    bool hasMouse() const;
-    bool isFocusEnabled() const;
+    bool isFocusEnabled() const { return focusPolicy() != NoFocus; }
     FocusPolicy focusPolicy() const;
     virtual void setFocusPolicy(FocusPolicy policy);
     bool hasFocus() const;
     static void setTabOrder(QWidget* first, QWidget* second);
     virtual void setFocusProxy(QWidget* proxy);
     QWidget* focusProxy() const;
-    //! The widget of this window that has the focus or will have it when the window is active.
     QWidget* focusWidget() const;
+
     void grabMouse();
     void grabMouse(const QCursor& cursor);
     void releaseMouse();
@@ -211,25 +186,58 @@ public:
     static QWidget* mouseGrabber();
     static QWidget* keyboardGrabber();
 
-    // Showing
-    bool isVisible() const;
-    bool isVisibleTo(QWidget* ancestor) const;
-    bool isVisibleToTLW() const;
-    bool isHidden() const;
-    bool isShown() const;
-    bool isUpdatesEnabled() const;
-    //! True if the widget accepted to be closed. `alsoDelete` deletes it then at once.
-    virtual bool close(bool alsoDelete);
-    virtual void reparent(QWidget* parent, WFlags f, const QPoint& pos, bool showIt = false);
-    void reparent(QWidget* parent, const QPoint& pos, bool showIt = false);
+    bool isUpdatesEnabled() const { return !testWState(WState_BlockUpdates); }
 
-    // Painting
+    virtual bool close(bool alsoDelete);
+    bool isVisible() const { return testWState(WState_Visible); }
+    bool isVisibleTo(QWidget* ancestor) const;
+    QRect visibleRect() const;
+    bool isHidden() const { return testWState(WState_ForceHide); }
+    bool isShown() const { return !isHidden(); }
+    bool isMinimized() const;
+    bool isMaximized() const;
+    bool isFullScreen() const;
+
+    virtual QSize sizeHint() const;
+    virtual QSize minimumSizeHint() const;
+    virtual QSizePolicy sizePolicy() const;
+    virtual void setSizePolicy(QSizePolicy policy);
+    void setSizePolicy(QSizePolicy::SizeType hor, QSizePolicy::SizeType ver, bool hfw = false)
+    {
+        setSizePolicy(QSizePolicy(hor, ver, hfw));
+    }
+    virtual int heightForWidth(int width) const;
+    QRegion clipRegion() const;
+    //! To be called when a size hint has changed.
+    void updateGeometry();
+
+    virtual void reparent(QWidget* parent, WFlags f, const QPoint& p, bool showIt = false);
+    void reparent(QWidget* parent, const QPoint& p, bool showIt = false);
+
+    //! Clear the background.
     void erase();
-    void erase(int x, int y, int w, int h);
-    void erase(const QRect& rect);
+    void erase(int x, int y, int w, int h) { erase(QRegion(x, y, w, h)); }
+    void erase(const QRect& rect) { erase(QRegion(rect)); }
     void erase(const QRegion& region);
+    void scroll(int dx, int dy);
+    void scroll(int dx, int dy, const QRect& rect);
+
     void drawText(int x, int y, const QString& text);
-    void drawText(const QPoint& pos, const QString& text);
+    void drawText(const QPoint& p, const QString& text) { drawText(p.x(), p.y(), text); }
+
+    WState getWState() const;
+    bool testWState(WState s) const { return (getWState() & s) != 0; }
+    bool testWFlags(WFlags f) const;
+    static QWidget* find(WId id);
+
+    QWidget* childAt(int x, int y, bool includeThis = false) const;
+    QWidget* childAt(const QPoint& p, bool includeThis = false) const
+    {
+        return childAt(p.x(), p.y(), includeThis);
+    }
+
+    //! The parent; with `sameWindow` null for windows.
+    QWidget* parentWidget(bool sameWindow = false) const;
 
 public slots:
     virtual void setEnabled(bool enable);
@@ -241,16 +249,18 @@ public slots:
     virtual void setFocus();
     void clearFocus();
     virtual void setUpdatesEnabled(bool enable);
-    //! Paints when control returns to the event loop.
+
+    //! Paint when control returns to the event loop.
     void update();
     void update(int x, int y, int w, int h);
     void update(const QRect& rect);
-    //! Paints before it returns. A negative width or height reaches to the edge.
+    //! Paint at once. Negative widths and heights reach to the edge.
     void repaint();
     void repaint(bool erase);
     void repaint(int x, int y, int w, int h, bool erase = true);
     void repaint(const QRect& rect, bool erase = true);
     void repaint(const QRegion& region, bool erase = true);
+
     virtual void show();
     virtual void hide();
     void setShown(bool show);
@@ -258,29 +268,28 @@ public slots:
     void iconify();
     virtual void showMinimized();
     virtual void showMaximized();
-    virtual void showFullScreen();
+    void showFullScreen();
     virtual void showNormal();
-    //! Called once, before the first show.
     virtual void polish();
     void constPolish() const;
     bool close();
+
     void raise();
     void lower();
     void stackUnder(QWidget* sibling);
-    //! Moves the window with its frame.
     virtual void move(int x, int y);
-    void move(const QPoint& pos);
-    virtual void resize(int width, int height);
+    void move(const QPoint& p);
+    virtual void resize(int w, int h);
     void resize(const QSize& size);
-    //! Without the frame.
     virtual void setGeometry(int x, int y, int w, int h);
     virtual void setGeometry(const QRect& rect);
     virtual void adjustSize();
 
 protected:
-    bool event(QEvent* event);
+    virtual bool event(QEvent* event);
     virtual void mousePressEvent(QMouseEvent* event);
     virtual void mouseReleaseEvent(QMouseEvent* event);
+    //! Calls mousePressEvent().
     virtual void mouseDoubleClickEvent(QMouseEvent* event);
     virtual void mouseMoveEvent(QMouseEvent* event);
     virtual void wheelEvent(QWheelEvent* event);
@@ -298,38 +307,25 @@ protected:
     virtual void showEvent(QShowEvent* event);
     virtual void hideEvent(QHideEvent* event);
 
-    virtual void enabledChange(bool wasEnabled);
+    virtual void enabledChange(bool oldEnabled);
     virtual void paletteChange(const QPalette& oldPalette);
     virtual void fontChange(const QFont& oldFont);
-    virtual void windowActivationChange(bool wasActive);
-
-    WState getWState() const;
-    void setWState(WState states);
-    void clearWState(WState states);
-    WFlags getWFlags() const;
-    virtual void setWFlags(WFlags flags);
-    void clearWFlags(WFlags flags);
+    virtual void windowActivationChange(bool oldActive);
 
     virtual bool focusNextPrevChild(bool next);
+
+    WFlags getWFlags() const;
+    virtual void setWFlags(WFlags f);
+    void clearWFlags(WFlags f);
+    void setWState(WState s);
+    void clearWState(WState s);
 
 private slots:
     void focusProxyDestroyed();
 
 private:
-    void setBackgroundFromMode();
-    void setBackgroundEmpty();
-    void setBackgroundColorDirect(const QColor& color);
-    void setBackgroundPixmapDirect(const QPixmap& pixmap);
-    void setBackgroundModeDirect(BackgroundMode mode);
-    void internalSetGeometry(int x, int y, int w, int h, bool isMove);
-    void showWindow();
-    void hideWindow();
-    void showChildren(bool spontaneous);
-    void hideChildren(bool spontaneous);
-
-    friend class QApplication;
     friend struct zeltk::WidgetAccess;
-    zeltk::WidgetData* wd;
+    zeltk::WidgetData* w;
 
     QWidget(const QWidget&);
     QWidget& operator=(const QWidget&);

@@ -5,7 +5,8 @@
 class QWidget;
 class QString;
 
-namespace zeltk {
+namespace zeltk
+{
 
 // One who is called when its key is pressed in the window of its widget.
 class AcceleratorTarget

@@ -6,7 +6,8 @@
 class QObject;
 class QWidget;
 
-namespace zeltk {
+namespace zeltk
+{
 
 // Called when the first styled widget comes into being: the default style then adjusts the application
 // palette (Light, Highlight, HighlightedText). Cheap when it has happened already.
@@ -20,6 +21,9 @@ void modalHidden(QWidget* modal);
 // True if a modal widget or popup keeps input from this widget.
 bool blockedByModal(QWidget* widget);
 
+// After the close event of a window was accepted and it was hidden.
+void windowClosed(QWidget* window, bool wasMainWidget);
+
 // A widget is hidden, disabled or dies: focus, grabs and hover move on.
 void widgetHidden(QWidget* widget);
 void widgetDisabled(QWidget* widget);
@@ -29,6 +33,7 @@ void widgetDestroyed(QWidget* widget);
 void removePostedEvents(QObject* receiver);
 // Removes the news of a child that its parent has not heard of yet.
 void removePostedChildEvents(QObject* parent, QObject* child);
+bool hasPostedEvents();
 
 } // namespace zeltk
 

@@ -30,7 +30,8 @@ void warnOfNames(const char* function, const QObject* sender, const QObject* rec
 void warnOfMember(const char* function, const char* kind, const QObject* owner, const std::string& signature)
 {
     if (signature.find('(') == std::string::npos || signature.find(')') == std::string::npos)
-        qWarning("QObject::%s: Parentheses expected, %s %s::%s", function, kind, owner->className(), signature.c_str());
+        qWarning("QObject::%s: Parentheses expected, %s %s::%s", function, kind, owner->className(),
+                 signature.c_str());
     else
         qWarning("QObject::%s: No such %s %s::%s", function, kind, owner->className(), signature.c_str());
 }
@@ -48,13 +49,15 @@ bool argumentsFit(const std::string& signal, const std::string& member)
     const std::string taken = argumentsOf(member);
     if (taken.empty() || given == taken)
         return true;
-    return given.size() > taken.size() && given.compare(0, taken.size(), taken) == 0 && given[taken.size()] == ',';
+    return given.size() > taken.size() && given.compare(0, taken.size(), taken) == 0 &&
+           given[taken.size()] == ',';
 }
 
 int findMember(const QObject* owner, char code, const std::string& signature)
 {
     QMetaObject* meta = owner->metaObject();
-    return code == SignalCode ? meta->findSignal(signature.c_str(), true) : meta->findSlot(signature.c_str(), true);
+    return code == SignalCode ? meta->findSignal(signature.c_str(), true)
+                              : meta->findSlot(signature.c_str(), true);
 }
 
 void addConnection(QObject* sender, int signal, const Connection& connection)
@@ -83,7 +86,8 @@ void forgetSender(QObject* receiver, QObject* sender)
 void dropMarked(QConnectionList* list)
 {
     std::vector<Connection>& all = list->connections;
-    all.erase(std::remove_if(all.begin(), all.end(), [](const Connection& c) { return !c.receiver; }), all.end());
+    all.erase(std::remove_if(all.begin(), all.end(), [](const Connection& c) { return !c.receiver; }),
+              all.end());
 }
 
 // Cuts what fits; null and -1 stand for anything.
@@ -169,17 +173,20 @@ bool QObject::connect(const QObject* sender, const char* signal, const QObject* 
 {
     if (!sender || !receiver || !signal || !member) {
         qWarning("QObject::connect: Cannot connect %s::%s to %s::%s", sender ? sender->className() : "(null)",
-                 signal ? signal + 1 : "(null)", receiver ? receiver->className() : "(null)", member ? member + 1 : "(null)");
+                 signal ? signal + 1 : "(null)", receiver ? receiver->className() : "(null)",
+                 member ? member + 1 : "(null)");
         return false;
     }
     const std::string signalText = zeltk::normalizedSignature(signal);
     const std::string memberText = zeltk::normalizedSignature(member);
     if (signalText[0] == SlotCode) {
-        qWarning("QObject::connect: Attempt to bind non-signal %s::%s", sender->className(), signalText.c_str() + 1);
+        qWarning("QObject::connect: Attempt to bind non-signal %s::%s", sender->className(),
+                 signalText.c_str() + 1);
         return false;
     }
     if (signalText[0] != SignalCode) {
-        qWarning("QObject::connect: Use the SIGNAL macro to bind %s::%s", sender->className(), signalText.c_str());
+        qWarning("QObject::connect: Use the SIGNAL macro to bind %s::%s", sender->className(),
+                 signalText.c_str());
         return false;
     }
     const int signalId = findMember(sender, SignalCode, signalText.substr(1));
@@ -190,7 +197,8 @@ bool QObject::connect(const QObject* sender, const char* signal, const QObject* 
     }
     const char code = memberText[0];
     if (code != SlotCode && code != SignalCode) {
-        qWarning("QObject::connect: Use the SLOT or SIGNAL macro to connect %s::%s", receiver->className(), memberText.c_str());
+        qWarning("QObject::connect: Use the SLOT or SIGNAL macro to connect %s::%s", receiver->className(),
+                 memberText.c_str());
         return false;
     }
     const int memberId = findMember(receiver, code, memberText.substr(1));
@@ -200,8 +208,8 @@ bool QObject::connect(const QObject* sender, const char* signal, const QObject* 
         return false;
     }
     if (!argumentsFit(signalText, memberText)) {
-        qWarning("QObject::connect: Incompatible sender/receiver arguments\n\t%s::%s --> %s::%s", sender->className(),
-                 signalText.c_str() + 1, receiver->className(), memberText.c_str() + 1);
+        qWarning("QObject::connect: Incompatible sender/receiver arguments\n\t%s::%s --> %s::%s",
+                 sender->className(), signalText.c_str() + 1, receiver->className(), memberText.c_str() + 1);
         return false;
     }
     QObject* from = const_cast<QObject*>(sender);
@@ -210,7 +218,8 @@ bool QObject::connect(const QObject* sender, const char* signal, const QObject* 
     return true;
 }
 
-bool QObject::disconnect(const QObject* sender, const char* signal, const QObject* receiver, const char* member)
+bool QObject::disconnect(const QObject* sender, const char* signal, const QObject* receiver,
+                         const char* member)
 {
     if (!sender || (!receiver && member)) {
         qWarning("QObject::disconnect: Unexpected null parameter");
@@ -221,7 +230,8 @@ bool QObject::disconnect(const QObject* sender, const char* signal, const QObjec
     if (signal) {
         signalText = zeltk::normalizedSignature(signal);
         if (signalText[0] != SignalCode) {
-            qWarning("QObject::disconnect: Use the SIGNAL macro to unbind %s::%s", sender->className(), signalText.c_str());
+            qWarning("QObject::disconnect: Use the SIGNAL macro to unbind %s::%s", sender->className(),
+                     signalText.c_str());
             return false;
         }
         signalId = findMember(sender, SignalCode, signalText.substr(1));
@@ -236,7 +246,8 @@ bool QObject::disconnect(const QObject* sender, const char* signal, const QObjec
         const std::string memberText = zeltk::normalizedSignature(member);
         const char code = memberText[0];
         if (code != SlotCode && code != SignalCode) {
-            qWarning("QObject::disconnect: Use the SLOT or SIGNAL macro to disconnect %s::%s", receiver->className(), memberText.c_str());
+            qWarning("QObject::disconnect: Use the SLOT or SIGNAL macro to disconnect %s::%s",
+                     receiver->className(), memberText.c_str());
             return false;
         }
         toSignal = code == SignalCode;
@@ -254,13 +265,9 @@ bool QObject::disconnect(const QObject* sender, const char* signal, const QObjec
     return true;
 }
 
-void QObject::connectNotify(const char*)
-{
-}
+void QObject::connectNotify(const char*) {}
 
-void QObject::disconnectNotify(const char*)
-{
-}
+void QObject::disconnectNotify(const char*) {}
 
 QConnectionList* QObject::receivers(const char* signal) const
 {

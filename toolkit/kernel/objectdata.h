@@ -59,6 +59,9 @@ struct ObjectAccess {
     static ObjectData* data(const QObject* object) { return object->d; }
     static void notifyConnect(QObject* object, const char* signal) { object->connectNotify(signal); }
     static void notifyDisconnect(QObject* object, const char* signal) { object->disconnectNotify(signal); }
+    static void timerEvent(QObject* object, QTimerEvent* event) { object->timerEvent(event); }
+    static void childEvent(QObject* object, QChildEvent* event) { object->childEvent(event); }
+    static void customEvent(QObject* object, QCustomEvent* event) { object->customEvent(event); }
     static bool filter(QObject* object, QEvent* event) { return object->activate_filters(event); }
     static void addGuard(ObjectGuard* guard);
     static void removeGuard(ObjectGuard* guard);
@@ -69,6 +72,8 @@ inline ObjectData* dataOf(const QObject* object)
     return ObjectAccess::data(object);
 }
 
+// Calls the handlers that every object has; false if there is none for the event. May delete the object.
+bool handlePlainEvent(QObject* object, QEvent* event);
 // Breaks everything that leads to or from an object that dies.
 void cutConnections(QObject* object);
 void deleteChildren(QObject* object);

@@ -156,7 +156,8 @@ QObject* QObject::child(const char* objName, const char* inheritsClass, bool rec
     return first;
 }
 
-QObjectList* QObject::queryList(const char* inheritsClass, const char* objName, bool regexpMatch, bool recursiveSearch) const
+QObjectList* QObject::queryList(const char* inheritsClass, const char* objName, bool regexpMatch,
+                                bool recursiveSearch) const
 {
     QObjectList* found = new QObjectList;
     search(this, {inheritsClass, objName, regexpMatch, recursiveSearch}, found);

@@ -26,9 +26,7 @@ int modifierOf(int key)
 
 } // namespace
 
-QEvent::~QEvent()
-{
-}
+QEvent::~QEvent() {}
 
 QMouseEvent::QMouseEvent(Type type, const QPoint& pos, int button, int state)
     : QEvent(type), p(pos), b((ButtonState)button), s((ushort)state), accepted(true)

@@ -18,7 +18,8 @@ std::map<std::string, QMetaObject* (*)()>& classes()
 // Qt, the name space at the top of every chain, has no signals and slots.
 QMetaObject* metaObjectOfQt()
 {
-    static QMetaObject* const meta = new QMetaObject("Qt", nullptr, nullptr, 0, nullptr, 0, nullptr, 0, nullptr, 0, nullptr, 0);
+    static QMetaObject* const meta =
+        new QMetaObject("Qt", nullptr, nullptr, 0, nullptr, 0, nullptr, 0, nullptr, 0, nullptr, 0);
     return meta;
 }
 
@@ -32,17 +33,15 @@ int findIn(const QMetaData* table, int count, const char* signature)
 
 } // namespace
 
-QMetaObject::QMetaObject(const char* className, QMetaObject* superClass, const QMetaData* slotData, int slotNumber,
-                         const QMetaData* signalData, int signalNumber, const QMetaProperty*, int properties, const QMetaEnum*,
-                         int, const QClassInfo*, int infos)
-    : name(className), parent(superClass), slotTable(slotData), slotCount(slotNumber), signalTable(signalData),
-      signalCount(signalNumber), propertyCount(properties), classInfoCount(infos)
+QMetaObject::QMetaObject(const char* className, QMetaObject* superClass, const QMetaData* slotData,
+                         int slotNumber, const QMetaData* signalData, int signalNumber, const QMetaProperty*,
+                         int properties, const QMetaEnum*, int, const QClassInfo*, int infos)
+    : name(className), parent(superClass), slotTable(slotData), slotCount(slotNumber),
+      signalTable(signalData), signalCount(signalNumber), propertyCount(properties), classInfoCount(infos)
 {
 }
 
-QMetaObject::~QMetaObject()
-{
-}
+QMetaObject::~QMetaObject() {}
 
 bool QMetaObject::inherits(const char* className) const
 {
@@ -145,14 +144,13 @@ bool QMetaObject::hasMetaObject(const char* className)
     return classes().count(className) > 0;
 }
 
-QMetaObjectCleanUp::QMetaObjectCleanUp(const char* className, QMetaObject* (*staticMetaObject)()) : name(className), reference(nullptr)
+QMetaObjectCleanUp::QMetaObjectCleanUp(const char* className, QMetaObject* (*staticMetaObject)())
+    : name(className), reference(nullptr)
 {
     classes()[className] = staticMetaObject;
 }
 
-QMetaObjectCleanUp::QMetaObjectCleanUp() : name(nullptr), reference(nullptr)
-{
-}
+QMetaObjectCleanUp::QMetaObjectCleanUp() : name(nullptr), reference(nullptr) {}
 
 QMetaObjectCleanUp::~QMetaObjectCleanUp()
 {
@@ -173,16 +171,18 @@ namespace
 {
 
 // In the order of the calls in QObject::qt_emit and qt_invoke.
-const QMetaData objectSignals[] = {{"destroyed()", QMetaData::Public}, {"destroyed(QObject*)", QMetaData::Public}};
-const QMetaData objectSlots[] = {{"deleteLater()", QMetaData::Public}, {"cleanupEventFilter(QObject*)", QMetaData::Private}};
+const QMetaData objectSignals[] = {{"destroyed()", QMetaData::Public},
+                                   {"destroyed(QObject*)", QMetaData::Public}};
+const QMetaData objectSlots[] = {{"deleteLater()", QMetaData::Public},
+                                 {"cleanupEventFilter(QObject*)", QMetaData::Private}};
 
 } // namespace
 
 QMetaObject* QObject::staticMetaObject()
 {
     // Its one property is the name. Objects may outlive everything else, so it is never deleted.
-    static QMetaObject* const meta =
-        new QMetaObject("QObject", metaObjectOfQt(), objectSlots, 2, objectSignals, 2, nullptr, 1, nullptr, 0, nullptr, 0);
+    static QMetaObject* const meta = new QMetaObject("QObject", metaObjectOfQt(), objectSlots, 2,
+                                                     objectSignals, 2, nullptr, 1, nullptr, 0, nullptr, 0);
     return meta;
 }
 

@@ -114,38 +114,40 @@ void QObject::deleteLater()
 
 bool QObject::event(QEvent* event)
 {
-    if (activate_filters(event))
-        return true;
+    return activate_filters(event) || zeltk::handlePlainEvent(this, event);
+}
+
+namespace zeltk
+{
+
+bool handlePlainEvent(QObject* object, QEvent* event)
+{
     switch (event->type()) {
     case QEvent::Timer:
-        timerEvent(static_cast<QTimerEvent*>(event));
+        ObjectAccess::timerEvent(object, static_cast<QTimerEvent*>(event));
         return true;
     case QEvent::ChildInserted:
     case QEvent::ChildRemoved:
-        childEvent(static_cast<QChildEvent*>(event));
+        ObjectAccess::childEvent(object, static_cast<QChildEvent*>(event));
         return true;
     case QEvent::DeferredDelete:
-        delete this;
+        delete object;
         return true;
     default:
         if (event->type() < QEvent::User)
             return false;
-        customEvent(static_cast<QCustomEvent*>(event));
+        ObjectAccess::customEvent(object, static_cast<QCustomEvent*>(event));
         return true;
     }
 }
 
-void QObject::timerEvent(QTimerEvent*)
-{
-}
+} // namespace zeltk
 
-void QObject::childEvent(QChildEvent*)
-{
-}
+void QObject::timerEvent(QTimerEvent*) {}
 
-void QObject::customEvent(QCustomEvent*)
-{
-}
+void QObject::childEvent(QChildEvent*) {}
+
+void QObject::customEvent(QCustomEvent*) {}
 
 bool QObject::eventFilter(QObject*, QEvent*)
 {

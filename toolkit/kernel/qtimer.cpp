@@ -28,9 +28,7 @@ protected:
 
 } // namespace
 
-QTimer::QTimer(QObject* parent, const char* name) : QObject(parent, name), id(-1), single(false)
-{
-}
+QTimer::QTimer(QObject* parent, const char* name) : QObject(parent, name), id(-1), single(false) {}
 
 QTimer::~QTimer()
 {

@@ -38,12 +38,12 @@ const char* orEmpty(const char* text)
 
 } // namespace
 
-QTranslatorMessage::QTranslatorMessage() : h(0)
-{
-}
+QTranslatorMessage::QTranslatorMessage() : h(0) {}
 
-QTranslatorMessage::QTranslatorMessage(const char* context, const char* sourceText, const char* comment, const QString& translation)
-    : h(elfHash(sourceText, comment)), cx(orEmpty(context)), st(orEmpty(sourceText)), cm(orEmpty(comment)), tn(translation)
+QTranslatorMessage::QTranslatorMessage(const char* context, const char* sourceText, const char* comment,
+                                       const QString& translation)
+    : h(elfHash(sourceText, comment)), cx(orEmpty(context)), st(orEmpty(sourceText)), cm(orEmpty(comment)),
+      tn(translation)
 {
 }
 
@@ -72,7 +72,8 @@ bool QTranslatorMessage::operator<(const QTranslatorMessage& other) const
     return std::tie(h, cx, st, cm) < std::tie(other.h, other.cx, other.st, other.cm);
 }
 
-QTranslator::QTranslator(QObject* parent, const char* name) : QObject(parent, name), d(new zeltk::TranslatorData)
+QTranslator::QTranslator(QObject* parent, const char* name)
+    : QObject(parent, name), d(new zeltk::TranslatorData)
 {
 }
 
@@ -81,7 +82,8 @@ QTranslator::~QTranslator()
     delete d;
 }
 
-QTranslatorMessage QTranslator::findMessage(const char* context, const char* sourceText, const char* comment) const
+QTranslatorMessage QTranslator::findMessage(const char* context, const char* sourceText,
+                                            const char* comment) const
 {
     for (const char* wanted : {orEmpty(comment), ""}) {
         const auto found = d->messages.find(QTranslatorMessage(context, sourceText, wanted));

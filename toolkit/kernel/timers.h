@@ -4,7 +4,8 @@
 
 class QObject;
 
-namespace zeltk {
+namespace zeltk
+{
 
 // Returns the identifier, greater than 0, or 0 when there is no application.
 int startTimer(QObject* receiver, int milliseconds);

@@ -1,97 +1,77 @@
-// What every widget carries.
+// What every widget carries, and what the parts of the kernel tell each other of widgets.
 #ifndef ZELTK_WIDGETDATA_H
 #define ZELTK_WIDGETDATA_H
 
-#include <qcursor.h>
-#include <qfont.h>
-#include <qguardedptr.h>
-#include <qpalette.h>
 #include <qpixmap.h>
-#include <qrect.h>
-#include <qregion.h>
-#include <qsizepolicy.h>
 #include <qwidget.h>
 
-#include "kernel/widgetprivate.h"
-#include "x11/connection.h"
-
-#include <memory>
 #include <vector>
 
 namespace zeltk
 {
 
-// What only windows of their own have.
-struct TopLevelData {
-    QString caption;
-    QString iconText;
-    std::unique_ptr<QPixmap> icon;
-    // Width of the window manager's frame on each side, and its window.
-    int frameLeft = 0;
-    int frameTop = 0;
-    int frameRight = 0;
-    int frameBottom = 0;
-    x11::XId frameWindow = 0;
-    bool placed = false;    // the program chose the position
-    bool described = false; // the window manager knows class, kind and decorations
-    unsigned long configureSerial = 0;
-    uint windowState = 0;
-    QRect normalGeometry; // while maximized or full screen
-    QWidget* focusWidget = nullptr;
-    std::vector<QWidget*> tabChain;
-};
-
 struct WidgetData {
-    x11::XId window = 0;
-    Qt::WFlags flags = 0;
-    Qt::WState state = 0;
-    QRect geometry; // without the frame
-    QSize minimumSize;
-    QSize maximumSize;
-    QSize increment;
-    QSize baseSize;
-    QSizePolicy policy;
+    WState state = 0;
+    WFlags flags = 0;
+
+    QRect rect;  // in the parent; of windows on the screen, without the window manager's frame
+    QRect frame; // of windows, with it
+    QSize minimum = QSize(0, 0);
+    QSize maximum = QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    QSize step = QSize(0, 0);
+    QSize base = QSize(0, 0);
+    QSizePolicy policy = QSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    bool moved = true; // Move and Resize events wait for show()
+    bool resized = true;
+    bool placed = false; // the program chose the place
+    bool sized = false;  // and the size
+    QPoint oldPos;
+    QSize oldSize;
+
+    QPalette palette;
+    bool ownPalette = false;
+    QFont font;
+    QFont askedFont; // the widget's own wishes
+    bool ownFont = false;
+    bool selfDisabled = false; // not only through the parent
+    QCursor* cursor = nullptr;
 
     Qt::BackgroundMode mode = Qt::PaletteBackground;
     Qt::BackgroundMode visualMode = Qt::PaletteBackground;
+    QColor background; // what erase() paints
+    QPixmap* backgroundPixmap = nullptr;
     QWidget::BackgroundOrigin origin = QWidget::WidgetOrigin;
-    QColor eraseColor;
-    std::unique_ptr<QPixmap> erasePixmap;
-    QPalette palette;
-    QFont wantedFont; // as given to setFont
-    QFont font;       // with what it left open taken from the parent
-    bool ownPalette = false;
-    bool ownFont = false;
-    bool disabledItself = false; // not only by an ancestor
-    bool hiddenItself = false;   // the program hid it
-    bool plainBackground = true; // the server clears with eraseColor
-    bool mapped = false;         // the server has been told to show it
 
-    std::unique_ptr<QCursor> cursor;
+    bool painting = false;
+    QRegion paintRegion;
+    QRegion exposed;             // until the last Expose event of a series
+    bool unerasedExpose = false; // the next one follows a resize that must not erase
+
     QWidget::FocusPolicy focusPolicy = QWidget::NoFocus;
     QWidget* focusProxy = nullptr;
+    std::vector<QWidget*> tabOrder; // of a window
+    QWidget* focus = nullptr;       // in a window, also while it is not active
 
-    QRegion exposed;                  // collected until the last Expose event of a series
-    bool keepsOnResize = false;       // the next Expose follows a resize without erasing
-    const QRegion* painted = nullptr; // region of the paint event in progress
-
-    std::unique_ptr<TopLevelData> top;
+    QString caption;
+    QString iconText;
+    QPixmap* icon = nullptr;
+    bool minimized = false;
+    bool maximized = false;
+    bool fullScreen = false;
+    QRect normalRect; // before maximizing
 };
 
 struct WidgetAccess {
-    static WidgetData* data(const QWidget* widget) { return widget->wd; }
-    static void setState(QWidget* widget, Qt::WState bits) { widget->setWState(bits); }
-    static void clearState(QWidget* widget, Qt::WState bits) { widget->clearWState(bits); }
-    static void setFlags(QWidget* widget, Qt::WFlags bits) { widget->setWFlags(bits); }
+    static WidgetData* data(const QWidget* widget) { return widget->w; }
+    static void setState(QWidget* widget, WState s) { widget->w->state |= s; }
+    static void clearState(QWidget* widget, WState s) { widget->w->state &= ~s; }
+    static bool focusNextPrev(QWidget* widget, bool next) { return widget->focusNextPrevChild(next); }
     static void paletteChange(QWidget* widget, const QPalette& old) { widget->paletteChange(old); }
     static void fontChange(QWidget* widget, const QFont& old) { widget->fontChange(old); }
-    static void enabledChange(QWidget* widget, bool was) { widget->enabledChange(was); }
-    static void windowActivationChange(QWidget* widget, bool was) { widget->windowActivationChange(was); }
-    static bool focusNextPrevChild(QWidget* widget, bool next) { return widget->focusNextPrevChild(next); }
-    static void setBackground(QWidget* widget) { widget->setBackgroundFromMode(); }
-    static void hideWindow(QWidget* widget) { widget->hideWindow(); }
-    static void showWindow(QWidget* widget) { widget->showWindow(); }
-    static void setHandle(QWidget* widget, x11::XId handle) { widget->hd = handle; }
+    static void enabledChange(QWidget* widget, bool old) { widget->enabledChange(old); }
+    static void activationChange(QWidget* widget, bool old) { widget->windowActivationChange(old); }
+    static void setWinId(QWidget* widget, WId id) { widget->hd = id; }
+    static void focusProxyDestroyed(QWidget* widget) { widget->focusProxyDestroyed(); }
 };
 
 inline WidgetData* dataOf(const QWidget* widget)
@@ -99,38 +79,33 @@ inline WidgetData* dataOf(const QWidget* widget)
     return WidgetAccess::data(widget);
 }
 
-// The children that are widgets, from the lowest to the highest.
+// The children that are widgets.
 std::vector<QWidget*> childWidgets(const QWidget* widget);
+// All widgets, in the order of their creation.
+const std::vector<QWidget*>& everyWidget();
 
-// Makes the window of a widget that has none, with default geometry.
-void createWidgetWindow(QWidget* widget);
-// Makes it fit a new parent and new flags.
-void replaceWidgetWindow(QWidget* widget, Qt::WFlags flags);
-// Ends the window with all inside it; descendants' windows are forgotten.
-void destroyWidgetWindow(QWidget* widget);
-// The geometry that new windows have.
-QRect defaultGeometry(const QWidget* widget);
-
-// The palette or font that a widget has which sets none itself.
-QPalette inheritedPalette(const QWidget* widget);
-QFont inheritedFont(const QWidget* widget);
-// After a widget got another parent: palette, font, and whether it is enabled.
-void inheritAgain(QWidget* widget);
-
-// Sets whether the widget and all inside it are enabled, as they and their ancestors say.
-void refreshEnabled(QWidget* widget);
-
-// Describe a top-level window to the window manager.
-void describeWindow(QWidget* widget);
-void sendSizeHints(QWidget* widget);
-void sendWindowHints(QWidget* widget);
-
-// What the server clears the widget's window with.
+// Palette and font of a new or moved widget, from its parent or the application.
+void inheritLook(QWidget* widget);
+// Sets the window's background from its mode and colours.
 void applyBackground(QWidget* widget);
-// The cursor that the widget's window shows.
 void applyCursor(QWidget* widget);
-// Whether an event may be painted now.
-bool mayPaint(const QWidget* widget);
+// Puts the window into its new parent's, with the geometry of a new widget.
+void moveWindowTo(QWidget* widget, QWidget* parent, bool wasTopLevel);
+void leaveTabOrder(QWidget* widget);
+void joinTabOrder(QWidget* widget);
+void applySizeHints(QWidget* window);
+void announce(QWidget* window);
+
+// Enables or disables through the parent.
+void setEnabledByParent(QWidget* widget, bool enable);
+void deliverPendingGeometry(QWidget* widget);
+
+// News from the X server.
+void windowExposed(QWidget* widget, const QRect& rect, int more);
+void windowConfigured(QWidget* window, const QRect& rect);
+void windowReparented(QWidget* window);
+// A queued paint event is delivered.
+void repaintPosted(QWidget* widget, const QRegion& region, bool erase);
 
 } // namespace zeltk
 

@@ -1,136 +1,128 @@
-// QWidget: place and size. The server is never asked: what it is told is what holds.
+// QWidget: places and sizes.
+#include <qwidget.h>
+
 #include "kernel/widgetdata.h"
 #include "x11/window.h"
 
 #include <qapplication.h>
 #include <qevent.h>
 
-using zeltk::TopLevelData;
+#include <algorithm>
+
+using zeltk::WidgetData;
+namespace x11 = zeltk::x11;
 
 namespace
 {
 
-int between(int low, int value, int high)
+// Tells a visible widget at once; a hidden one hears of it when it is shown.
+void tellGeometry(QWidget* widget, const QPoint& oldPos, const QSize& oldSize)
 {
-    return QMAX(low, QMIN(value, high));
-}
-
-QSize limited(const QSize& size)
-{
-    return QSize(between(0, size.width(), QWIDGETSIZE_MAX), between(0, size.height(), QWIDGETSIZE_MAX));
-}
-
-void tellServer(QWidget* widget, bool moved, bool resized)
-{
-    zeltk::WidgetData* data = zeltk::dataOf(widget);
-    // Only the widget itself may draw now: the server would clear what it makes larger.
-    const bool keep = resized && widget->isVisible() && widget->testWFlags(Qt::WResizeNoErase);
-    if (keep)
-        zeltk::x11::unsetWindowBackground(data->window);
-    const QRect& box = data->geometry;
-    const unsigned long serial = zeltk::x11::moveResizeWindow(
-        data->window, {box.x(), box.y(), box.width(), box.height()}, moved, resized);
-    if (data->top)
-        data->top->configureSerial = serial;
-    if (keep) {
-        zeltk::applyBackground(widget);
-        data->keepsOnResize = true;
+    WidgetData* data = zeltk::dataOf(widget);
+    const bool moved = widget->pos() != oldPos;
+    const bool resized = widget->size() != oldSize;
+    if (!widget->isVisible()) {
+        if (moved && !data->moved)
+            data->oldPos = oldPos;
+        if (resized && !data->resized)
+            data->oldSize = oldSize;
+        data->moved = data->moved || moved;
+        data->resized = data->resized || resized;
+        return;
     }
+    if (moved) {
+        QMoveEvent event(widget->pos(), oldPos);
+        QApplication::sendEvent(widget, &event);
+    }
+    if (resized) {
+        QResizeEvent event(widget->size(), oldSize);
+        QApplication::sendEvent(widget, &event);
+    }
+}
+
+// A window whose contents must not be erased when it is resized is without background meanwhile.
+void resizeWindow(QWidget* widget, const QRect& r, bool moved, bool resized)
+{
+    WidgetData* data = zeltk::dataOf(widget);
+    const bool unerased = resized && widget->isVisible() && widget->testWFlags(Qt::WResizeNoErase);
+    if (unerased) {
+        x11::setNoBackground(widget->winId());
+        data->unerasedExpose = true;
+    }
+    if (moved && resized)
+        x11::moveResizeWindow(widget->winId(), r.x(), r.y(), r.width(), r.height());
+    else if (moved)
+        x11::moveWindow(widget->winId(), r.x(), r.y());
+    else if (resized)
+        x11::resizeWindow(widget->winId(), r.width(), r.height());
+    if (unerased)
+        zeltk::applyBackground(widget);
+}
+
+// `pos` is the place of the frame, where there is one.
+void changeGeometry(QWidget* widget, const QPoint& pos, QSize size)
+{
+    if (widget->isDesktop())
+        return;
+    WidgetData* data = zeltk::dataOf(widget);
+    size = size.boundedTo(data->maximum).expandedTo(data->minimum).expandedTo(QSize(1, 1));
+    const QPoint oldPos = widget->pos();
+    const QSize oldSize = widget->size();
+    if (pos == oldPos && size == oldSize)
+        return;
+    const QPoint inFrame = data->rect.topLeft() - data->frame.topLeft();
+    const QSize around = data->frame.size() - data->rect.size();
+    data->rect = QRect(pos + inFrame, size);
+    data->frame = QRect(pos, size + around);
+    if (widget->isTopLevel())
+        zeltk::applySizeHints(widget);
+    resizeWindow(widget, QRect(pos, size), pos != oldPos, size != oldSize);
+    tellGeometry(widget, oldPos, oldSize);
 }
 
 } // namespace
 
-void QWidget::internalSetGeometry(int x, int y, int width, int height, bool isMove)
+namespace zeltk
 {
-    if (isDesktop())
-        return;
-    const QRect before = wd->geometry;
-    const QPoint placeBefore = pos();
-    width = QMAX(QMAX(QMIN(width, wd->maximumSize.width()), wd->minimumSize.width()), 1);
-    height = QMAX(QMAX(QMIN(height, wd->maximumSize.height()), wd->minimumSize.height()), 1);
-    wd->geometry = QRect(isMove ? x : before.x(), isMove ? y : before.y(), width, height);
-    const bool moved = wd->geometry.topLeft() != before.topLeft();
-    const bool resized = wd->geometry.size() != before.size();
-    if (moved || resized)
-        tellServer(this, moved, resized);
-    if (isVisible()) {
-        if (moved) {
-            QMoveEvent event(pos(), placeBefore);
-            QApplication::sendEvent(this, &event);
-        }
-        if (resized) {
-            QResizeEvent event(size(), before.size());
-            QApplication::sendEvent(this, &event);
-        }
-        return;
+
+void deliverPendingGeometry(QWidget* widget)
+{
+    WidgetData* data = dataOf(widget);
+    if (data->moved) {
+        data->moved = false;
+        QMoveEvent event(widget->pos(), data->oldPos);
+        QApplication::sendEvent(widget, &event);
     }
-    if (moved)
-        QApplication::postEvent(this, new QMoveEvent(pos(), placeBefore));
-    if (resized)
-        QApplication::postEvent(this, new QResizeEvent(size(), before.size()));
-}
-
-void QWidget::move(int x, int y)
-{
-    if (wd->top) {
-        wd->top->placed = true;
-        x += wd->top->frameLeft;
-        y += wd->top->frameTop;
+    if (data->resized) {
+        data->resized = false;
+        QResizeEvent event(widget->size(), data->oldSize);
+        QApplication::sendEvent(widget, &event);
     }
-    internalSetGeometry(x, y, width(), height(), true);
 }
 
-void QWidget::move(const QPoint& pos)
+void windowConfigured(QWidget* window, const QRect& rect)
 {
-    move(pos.x(), pos.y());
+    WidgetData* data = dataOf(window);
+    if (rect == data->rect)
+        return;
+    const QPoint oldPos = window->pos();
+    const QSize oldSize = window->size();
+    data->frame = QRect(data->frame.topLeft() + (rect.topLeft() - data->rect.topLeft()),
+                        data->frame.size() + (rect.size() - data->rect.size()));
+    data->rect = rect;
+    tellGeometry(window, oldPos, oldSize);
 }
 
-void QWidget::resize(int width, int height)
-{
-    setWState(WState_Resized);
-    internalSetGeometry(x(), y(), width, height, false);
-}
-
-void QWidget::resize(const QSize& size)
-{
-    resize(size.width(), size.height());
-}
-
-void QWidget::setGeometry(int x, int y, int w, int h)
-{
-    setWState(WState_Resized);
-    if (wd->top)
-        wd->top->placed = true;
-    internalSetGeometry(x, y, w, h, true);
-}
-
-void QWidget::setGeometry(const QRect& rect)
-{
-    setGeometry(rect.x(), rect.y(), rect.width(), rect.height());
-}
+} // namespace zeltk
 
 const QRect& QWidget::geometry() const
 {
-    return wd->geometry;
+    return w->rect;
 }
 
 QRect QWidget::frameGeometry() const
 {
-    if (!wd->top)
-        return wd->geometry;
-    QRect frame = wd->geometry;
-    frame.addCoords(-wd->top->frameLeft, -wd->top->frameTop, wd->top->frameRight, wd->top->frameBottom);
-    return frame;
-}
-
-QSize QWidget::frameSize() const
-{
-    return frameGeometry().size();
-}
-
-QPoint QWidget::pos() const
-{
-    return frameGeometry().topLeft();
+    return isTopLevel() ? w->frame : w->rect;
 }
 
 int QWidget::x() const
@@ -143,110 +135,111 @@ int QWidget::y() const
     return pos().y();
 }
 
-QSize QWidget::size() const
+QPoint QWidget::pos() const
 {
-    return wd->geometry.size();
+    return frameGeometry().topLeft();
 }
 
-int QWidget::width() const
+QSize QWidget::frameSize() const
 {
-    return wd->geometry.width();
+    return frameGeometry().size();
 }
 
-int QWidget::height() const
+void QWidget::move(int x, int y)
 {
-    return wd->geometry.height();
+    w->placed = true;
+    changeGeometry(this, QPoint(x, y), size());
 }
 
-QRect QWidget::rect() const
+void QWidget::move(const QPoint& p)
 {
-    return QRect(0, 0, width(), height());
+    move(p.x(), p.y());
+}
+
+void QWidget::resize(int width, int height)
+{
+    w->sized = true;
+    changeGeometry(this, pos(), QSize(width, height));
+}
+
+void QWidget::resize(const QSize& size)
+{
+    resize(size.width(), size.height());
+}
+
+// The rectangle is the client area's; move() takes the frame's corner.
+void QWidget::setGeometry(int x, int y, int width, int height)
+{
+    w->placed = w->sized = true;
+    const QPoint inFrame = isTopLevel() ? w->rect.topLeft() - w->frame.topLeft() : QPoint(0, 0);
+    changeGeometry(this, QPoint(x, y) - inFrame, QSize(width, height));
+}
+
+void QWidget::setGeometry(const QRect& rect)
+{
+    setGeometry(rect.x(), rect.y(), rect.width(), rect.height());
 }
 
 QSize QWidget::minimumSize() const
 {
-    return wd->minimumSize;
+    return w->minimum;
 }
 
 QSize QWidget::maximumSize() const
 {
-    return wd->maximumSize;
+    return w->maximum;
 }
 
-int QWidget::minimumWidth() const
+void QWidget::setMinimumSize(int minw, int minh)
 {
-    return wd->minimumSize.width();
-}
-
-int QWidget::minimumHeight() const
-{
-    return wd->minimumSize.height();
-}
-
-int QWidget::maximumWidth() const
-{
-    return wd->maximumSize.width();
-}
-
-int QWidget::maximumHeight() const
-{
-    return wd->maximumSize.height();
-}
-
-void QWidget::setMinimumSize(int width, int height)
-{
-    const QSize limit = limited(QSize(width, height));
-    if (limit == wd->minimumSize)
+    if (minw < 0 || minh < 0 || minw > QWIDGETSIZE_MAX || minh > QWIDGETSIZE_MAX)
+        qWarning("QWidget::setMinimumSize: The smallest allowed size is (0,0), the largest (%d,%d)",
+                 QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    const QSize wanted =
+        QSize(minw, minh).expandedTo(QSize(0, 0)).boundedTo(QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
+    if (wanted == w->minimum)
         return;
-    wd->minimumSize = limit;
-    if (this->width() < limit.width() || this->height() < limit.height())
-        resize(size().expandedTo(limit));
+    w->minimum = wanted;
     if (isTopLevel())
-        zeltk::sendSizeHints(this);
+        zeltk::applySizeHints(this);
+    changeGeometry(this, pos(), size().expandedTo(wanted));
     updateGeometry();
 }
 
-void QWidget::setMaximumSize(int width, int height)
+void QWidget::setMaximumSize(int maxw, int maxh)
 {
-    const QSize limit = limited(QSize(width, height));
-    if (limit == wd->maximumSize)
+    if (maxw < 0 || maxh < 0 || maxw > QWIDGETSIZE_MAX || maxh > QWIDGETSIZE_MAX)
+        qWarning("QWidget::setMaximumSize: The smallest allowed size is (0,0), the largest (%d,%d)",
+                 QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    const QSize wanted =
+        QSize(maxw, maxh).expandedTo(QSize(0, 0)).boundedTo(QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
+    if (wanted == w->maximum)
         return;
-    wd->maximumSize = limit;
-    if (this->width() > limit.width() || this->height() > limit.height())
-        resize(size().boundedTo(limit));
+    w->maximum = wanted;
     if (isTopLevel())
-        zeltk::sendSizeHints(this);
+        zeltk::applySizeHints(this);
+    changeGeometry(this, pos(), size().boundedTo(wanted));
     updateGeometry();
 }
 
-void QWidget::setMinimumSize(const QSize& size)
+void QWidget::setMinimumWidth(int minw)
 {
-    setMinimumSize(size.width(), size.height());
+    setMinimumSize(minw, minimumHeight());
 }
 
-void QWidget::setMaximumSize(const QSize& size)
+void QWidget::setMinimumHeight(int minh)
 {
-    setMaximumSize(size.width(), size.height());
+    setMinimumSize(minimumWidth(), minh);
 }
 
-void QWidget::setMinimumWidth(int width)
+void QWidget::setMaximumWidth(int maxw)
 {
-    setMinimumSize(width, minimumHeight());
+    setMaximumSize(maxw, maximumHeight());
 }
 
-void QWidget::setMinimumHeight(int height)
+void QWidget::setMaximumHeight(int maxh)
 {
-    setMinimumSize(minimumWidth(), height);
-}
-
-void QWidget::setMaximumWidth(int width)
-{
-    setMaximumSize(width, maximumHeight());
-}
-
-void QWidget::setMaximumHeight(int height)
-{
-    setMaximumSize(maximumWidth(), height);
+    setMaximumSize(maximumWidth(), maxh);
 }
 
 void QWidget::setFixedSize(int width, int height)
@@ -254,11 +247,6 @@ void QWidget::setFixedSize(int width, int height)
     setMinimumSize(width, height);
     setMaximumSize(width, height);
     resize(width, height);
-}
-
-void QWidget::setFixedSize(const QSize& size)
-{
-    setFixedSize(size.width(), size.height());
 }
 
 void QWidget::setFixedWidth(int width)
@@ -275,34 +263,127 @@ void QWidget::setFixedHeight(int height)
 
 QSize QWidget::sizeIncrement() const
 {
-    return wd->increment;
+    return w->step;
 }
 
 void QWidget::setSizeIncrement(int width, int height)
 {
-    wd->increment = QSize(width, height);
+    w->step = QSize(width, height);
     if (isTopLevel())
-        zeltk::sendSizeHints(this);
-}
-
-void QWidget::setSizeIncrement(const QSize& size)
-{
-    setSizeIncrement(size.width(), size.height());
+        zeltk::applySizeHints(this);
 }
 
 QSize QWidget::baseSize() const
 {
-    return wd->baseSize;
+    return w->base;
 }
 
 void QWidget::setBaseSize(int width, int height)
 {
-    wd->baseSize = QSize(width, height);
+    w->base = QSize(width, height);
     if (isTopLevel())
-        zeltk::sendSizeHints(this);
+        zeltk::applySizeHints(this);
 }
 
-void QWidget::setBaseSize(const QSize& size)
+QSize QWidget::sizeHint() const
 {
-    setBaseSize(size.width(), size.height());
+    return QSize();
+}
+
+QSize QWidget::minimumSizeHint() const
+{
+    return QSize();
+}
+
+QSizePolicy QWidget::sizePolicy() const
+{
+    return w->policy;
+}
+
+void QWidget::setSizePolicy(QSizePolicy policy)
+{
+    if (policy == w->policy)
+        return;
+    w->policy = policy;
+    updateGeometry();
+}
+
+int QWidget::heightForWidth(int) const
+{
+    return 0;
+}
+
+// Who arranges the widget hears of it through a LayoutHint event of the parent.
+void QWidget::updateGeometry()
+{
+    if (!isTopLevel() && parentWidget() && !isHidden())
+        QApplication::postEvent(parentWidget(), new QEvent(QEvent::LayoutHint));
+}
+
+void QWidget::adjustSize()
+{
+    constPolish();
+    const QSize hint = sizeHint();
+    if (hint.isValid()) {
+        resize(hint);
+        return;
+    }
+    const QRect children = childrenRect();
+    if (!children.isNull())
+        resize(children.width() + 2 * children.x(), children.height() + 2 * children.y());
+}
+
+QPoint QWidget::mapToParent(const QPoint& p) const
+{
+    return p + w->rect.topLeft();
+}
+
+QPoint QWidget::mapFromParent(const QPoint& p) const
+{
+    return p - w->rect.topLeft();
+}
+
+QPoint QWidget::mapToGlobal(const QPoint& p) const
+{
+    QPoint result = p;
+    for (const QWidget* widget = this; widget;
+         widget = widget->isTopLevel() ? nullptr : widget->parentWidget())
+        result += zeltk::dataOf(widget)->rect.topLeft();
+    return result;
+}
+
+QPoint QWidget::mapFromGlobal(const QPoint& p) const
+{
+    return p - mapToGlobal(QPoint(0, 0));
+}
+
+QPoint QWidget::mapTo(QWidget* ancestor, const QPoint& p) const
+{
+    QPoint result = p;
+    for (const QWidget* widget = this; widget && widget != ancestor; widget = widget->parentWidget())
+        result += zeltk::dataOf(widget)->rect.topLeft();
+    return result;
+}
+
+QPoint QWidget::mapFrom(QWidget* ancestor, const QPoint& p) const
+{
+    return p - mapTo(ancestor, QPoint(0, 0));
+}
+
+QRect QWidget::visibleRect() const
+{
+    QRect visible = rect();
+    QPoint offset(0, 0);
+    for (const QWidget* widget = this; !widget->isTopLevel() && widget->parentWidget();
+         widget = widget->parentWidget()) {
+        offset += widget->pos();
+        visible &= QRect(-offset, widget->parentWidget()->size());
+    }
+    return visible;
+}
+
+// The part that is not covered by children and not cut off by parents.
+QRegion QWidget::clipRegion() const
+{
+    return QRegion(visibleRect()) - childrenRegion();
 }

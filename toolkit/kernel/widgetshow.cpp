@@ -1,35 +1,96 @@
-// QWidget: showing, hiding and closing.
+// QWidget: showing, hiding, closing, stacking, changing parents.
+#include <qwidget.h>
+
 #include "kernel/applicationprivate.h"
+#include "kernel/objecttree.h"
 #include "kernel/widgetdata.h"
 #include "x11/window.h"
+#include "x11/wmhints.h"
 
 #include <qapplication.h>
 #include <qevent.h>
 #include <qguardedptr.h>
 
+#include <algorithm>
+
+using zeltk::childWidgets;
+using zeltk::WidgetAccess;
+using zeltk::WidgetData;
+namespace x11 = zeltk::x11;
+
 namespace
 {
 
-void deliver(QWidget* widget, QEvent::Type type)
+void sendShow(QWidget* widget)
 {
-    QApplication::sendPostedEvents(widget, type);
+    QShowEvent event;
+    QApplication::sendEvent(widget, &event);
 }
 
-// A window takes the size it likes best, unless the program has chosen one.
-void takeFirstSize(QWidget* window)
+void sendPlain(QWidget* widget, QEvent::Type type)
 {
-    if (!window->testWState(Qt::WState_Resized) && window->sizeHint().isValid())
-        window->adjustSize();
+    QEvent event(type);
+    QApplication::sendEvent(widget, &event);
 }
 
-// Whether no window is left that keeps the program alive.
-bool isLastWindow()
+void prepareToShow(QWidget* widget)
 {
-    for (QWidget* widget : zeltk::allWidgets())
-        if (widget->isTopLevel() && !widget->isHidden() && !widget->isDesktop() && !widget->isPopup() &&
-            !(widget->isDialog() && widget->parentWidget()))
-            return false;
-    return true;
+    QApplication::sendPostedEvents(widget, QEvent::ChildInserted);
+    widget->polish();
+    zeltk::deliverPendingGeometry(widget);
+}
+
+// Children come to be visible before their parents, so that all appears at once.
+void showChildren(QWidget* widget)
+{
+    for (QWidget* child : childWidgets(widget)) {
+        if (child->isTopLevel() || child->isHidden() || child->isVisible())
+            continue;
+        prepareToShow(child);
+        showChildren(child);
+        WidgetAccess::setState(child, Qt::WState_Visible);
+        x11::mapWindow(child->winId());
+        sendShow(child);
+    }
+}
+
+void hideChildren(QWidget* widget)
+{
+    for (QWidget* child : childWidgets(widget)) {
+        if (child->isTopLevel() || !child->isVisible())
+            continue;
+        WidgetAccess::clearState(child, Qt::WState_Visible);
+        hideChildren(child);
+        zeltk::widgetHidden(child);
+        QHideEvent event;
+        QApplication::sendEvent(child, &event);
+    }
+}
+
+void mapTopLevel(QWidget* window)
+{
+    zeltk::applySizeHints(window);
+    if (window->isPopup())
+        x11::raiseWindow(window->winId());
+    if (window->isModal())
+        x11::setModal(window->winId(), true);
+    x11::mapWindow(window->winId());
+    if (window->isPopup())
+        zeltk::popupShown(window);
+    if (window->isModal())
+        zeltk::modalShown(window);
+}
+
+void unmapTopLevel(QWidget* window)
+{
+    if (window->isPopup())
+        zeltk::popupHidden(window);
+    if (window->isModal())
+        zeltk::modalHidden(window);
+    if (window->testWFlags(Qt::WType_Popup | Qt::WX11BypassWM))
+        x11::unmapWindow(window->winId());
+    else
+        x11::withdrawWindow(window->winId());
 }
 
 } // namespace
@@ -39,207 +100,176 @@ void QWidget::show()
     if (isVisible() || isDesktop())
         return;
     const bool wasHidden = isHidden();
-    clearWState(WState_ForceHide);
-    wd->hiddenItself = false;
-    QWidget* container = isTopLevel() ? 0 : parentWidget();
-    if (wasHidden)
+    w->state &= ~WState_ForceHide;
+    if (!isTopLevel() && !parentWidget()->isVisible()) {
+        if (wasHidden)
+            sendPlain(this, QEvent::ShowToParent);
+        return;
+    }
+    prepareToShow(this);
+    showChildren(this);
+    if (isTopLevel()) {
+        w->state |= WState_Visible;
+        mapTopLevel(this);
+    } else {
+        QApplication::sendPostedEvents(parentWidget(), QEvent::ChildInserted);
+        w->state |= WState_Visible;
+        x11::mapWindow(winId());
         updateGeometry();
-    if (container && !container->isVisible()) {
-        if (wasHidden) {
-            QEvent event(QEvent::ShowToParent);
-            QApplication::sendEvent(this, &event);
-        }
-        return;
     }
-    deliver(this, QEvent::ChildInserted);
-    constPolish();
-    if (isTopLevel())
-        takeFirstSize(this);
-    deliver(this, QEvent::Move);
-    deliver(this, QEvent::Resize);
-    if (container)
-        deliver(container, QEvent::ChildInserted);
-    setWState(WState_Visible);
-    showChildren(false);
-    QShowEvent event;
-    QApplication::sendEvent(this, &event);
-    if (isVisible())
-        showWindow();
-}
-
-void QWidget::showChildren(bool)
-{
-    for (QWidget* child : zeltk::childWidgets(this))
-        if (!child->isTopLevel() && !child->isHidden())
-            child->show();
-}
-
-void QWidget::showWindow()
-{
-    if (wd->mapped)
-        return;
-    wd->mapped = true;
-    if (!isTopLevel()) {
-        zeltk::x11::mapWindow(wd->window);
-        return;
-    }
-    if (wd->top->described)
-        zeltk::sendSizeHints(this);
-    else
-        zeltk::describeWindow(this);
-    if (isPopup())
-        zeltk::x11::raiseWindow(wd->window);
-    if (wd->top->windowState & WindowMinimized)
-        zeltk::sendWindowHints(this);
-    zeltk::x11::mapWindow(wd->window);
-    if (isPopup())
-        zeltk::popupShown(this);
-    else if (isModal())
-        zeltk::modalShown(this);
+    sendShow(this);
 }
 
 void QWidget::hide()
 {
-    if (isDesktop())
-        return;
     const bool wasHidden = isHidden();
-    setWState(WState_ForceHide);
-    wd->hiddenItself = true;
+    w->state |= WState_ForceHide;
     if (!isVisible()) {
-        if (!wasHidden && !isTopLevel()) {
-            QEvent event(QEvent::HideToParent);
-            QApplication::sendEvent(this, &event);
-        }
-        if (wd->mapped)
-            hideWindow();
+        if (!wasHidden && !isTopLevel())
+            sendPlain(this, QEvent::HideToParent);
         return;
     }
-    clearWState(WState_Visible);
-    if (isPopup())
-        zeltk::popupHidden(this);
-    else if (isTopLevel() && isModal())
-        zeltk::modalHidden(this);
+    w->state &= ~WState_Visible;
+    if (isTopLevel())
+        unmapTopLevel(this);
+    else
+        x11::unmapWindow(winId());
     zeltk::widgetHidden(this);
-    hideWindow();
+    if (!isTopLevel() && parentWidget() && parentWidget()->isVisible())
+        QApplication::postEvent(parentWidget(), new QEvent(QEvent::LayoutHint));
     QHideEvent event;
     QApplication::sendEvent(this, &event);
-    hideChildren(false);
-    if (!isTopLevel() && parentWidget())
-        QApplication::postEvent(parentWidget(), new QEvent(QEvent::LayoutHint));
+    hideChildren(this);
 }
 
-// Windows inside a hidden one need not be unmapped; they reappear with it.
-void QWidget::hideChildren(bool)
+void QWidget::setShown(bool enable)
 {
-    for (QWidget* child : zeltk::childWidgets(this)) {
-        if (child->isTopLevel() || !child->isVisible())
-            continue;
-        child->clearWState(WState_Visible);
-        child->hideChildren(false);
-        zeltk::widgetHidden(child);
-        QHideEvent event;
-        QApplication::sendEvent(child, &event);
-    }
-}
-
-void QWidget::hideWindow()
-{
-    if (!wd->mapped || !wd->window)
-        return;
-    wd->mapped = false;
-    wd->exposed = QRegion();
-    if (isTopLevel() && !isPopup())
-        zeltk::x11::withdrawWindow(wd->window);
+    if (enable)
+        show();
     else
-        zeltk::x11::unmapWindow(wd->window);
+        hide();
+}
+
+void QWidget::setHidden(bool enable)
+{
+    setShown(!enable);
+}
+
+bool QWidget::isVisibleTo(QWidget* ancestor) const
+{
+    for (const QWidget* widget = this; widget && widget != ancestor; widget = widget->parentWidget()) {
+        if (widget->isHidden())
+            return false;
+        if (widget->isTopLevel())
+            break;
+    }
+    return true;
 }
 
 void QWidget::polish()
 {
     if (testWState(WState_Polished))
         return;
-    setWState(WState_Polished);
-    zeltk::ensureStyled();
+    w->state |= WState_Polished;
     qApp->polish(this);
 }
 
 void QWidget::constPolish() const
 {
-    if (!testWState(WState_Polished)) {
-        QWidget* that = const_cast<QWidget*>(this);
-        that->polish();
-        that->setWState(WState_Polished);
-    }
-}
-
-bool QWidget::isVisible() const
-{
-    return testWState(WState_Visible) != 0;
-}
-
-bool QWidget::isHidden() const
-{
-    return testWState(WState_ForceHide) != 0;
-}
-
-bool QWidget::isShown() const
-{
-    return !isHidden();
-}
-
-bool QWidget::isVisibleTo(QWidget* ancestor) const
-{
-    const QWidget* widget = this;
-    while (widget && !widget->isHidden() && !widget->isTopLevel() && widget->parentWidget() &&
-           widget->parentWidget() != ancestor)
-        widget = widget->parentWidget();
-    return widget && !widget->isHidden();
-}
-
-bool QWidget::isVisibleToTLW() const
-{
-    return isVisible();
-}
-
-void QWidget::setShown(bool show)
-{
-    if (show)
-        this->show();
-    else
-        hide();
-}
-
-void QWidget::setHidden(bool hide)
-{
-    setShown(!hide);
+    if (!testWState(WState_Polished))
+        const_cast<QWidget*>(this)->polish();
 }
 
 bool QWidget::close()
 {
-    const QGuardedPtr<QWidget> alive(this);
-    const bool closed = close(false);
-    if (closed && alive && testWFlags(WDestructiveClose))
-        deleteLater();
-    return closed;
+    return close(false);
 }
 
+// The window is hidden when its close event is accepted. The last one ends the program, if it asked for that.
 bool QWidget::close(bool alsoDelete)
 {
-    const QGuardedPtr<QWidget> alive(this);
+    const QGuardedPtr<QWidget> self(this);
+    const bool wasMain = qApp->mainWidget() == this;
     QCloseEvent event;
     QApplication::sendEvent(this, &event);
-    if (!alive)
-        return true;
-    if (!event.isAccepted())
-        return false;
-    const bool wasMain = qApp->mainWidget() == this;
-    const bool wasTopLevel = isTopLevel();
+    if (!event.isAccepted() || self.isNull())
+        return self.isNull();
+    const bool deletes = alsoDelete || testWFlags(WDestructiveClose);
+    const bool counts = isTopLevel() && !isPopup();
     hide();
-    if (wasMain)
-        qApp->quit();
-    else if (wasTopLevel && isLastWindow())
-        qApp->lastWindowClosed();
-    if (alsoDelete && alive)
-        delete this;
+    if (counts && !self.isNull())
+        zeltk::windowClosed(this, wasMain);
+    if (deletes && !self.isNull())
+        deleteLater();
     return true;
+}
+
+void QWidget::raise()
+{
+    zeltk::moveToFront(this);
+    x11::raiseWindow(winId());
+}
+
+void QWidget::lower()
+{
+    zeltk::moveToBack(this);
+    x11::lowerWindow(winId());
+}
+
+void QWidget::stackUnder(QWidget* sibling)
+{
+    if (!sibling || isTopLevel() || sibling->isTopLevel() || parentWidget() != sibling->parentWidget() ||
+        sibling == this)
+        return;
+    zeltk::moveBefore(this, sibling);
+    x11::stackBelow(winId(), sibling->winId());
+}
+
+void QWidget::reparent(QWidget* parent, const QPoint& p, bool showIt)
+{
+    reparent(parent, getWFlags() & ~static_cast<WFlags>(WType_Mask), p, showIt);
+}
+
+// The size stays; the place is a new one.
+void QWidget::reparent(QWidget* parent, WFlags f, const QPoint& p, bool showIt)
+{
+    const QSize oldSize = size();
+    const bool wasEnabled = isEnabled();
+    if (isVisible()) {
+        w->state &= ~WState_Visible;
+        if (isTopLevel())
+            unmapTopLevel(this);
+        else
+            x11::unmapWindow(winId());
+        zeltk::widgetHidden(this);
+        for (QWidget* child : childWidgets(this))
+            if (!child->isTopLevel())
+                WidgetAccess::clearState(child, WState_Visible);
+    }
+    zeltk::leaveTabOrder(this);
+    if (this->parent())
+        this->parent()->removeChild(this);
+    const bool wasTopLevel = isTopLevel();
+    w->flags = f & ~static_cast<WFlags>(WType_TopLevel);
+    if (!parent || (f & (WType_Popup | WType_Dialog | WType_TopLevel)))
+        w->flags |= WType_TopLevel;
+    if (parent)
+        parent->insertChild(this);
+    zeltk::moveWindowTo(this, parent, wasTopLevel);
+    w->state |= WState_ForceHide;
+    setGeometry(p.x(), p.y(), oldSize.width(), oldSize.height());
+    zeltk::joinTabOrder(this);
+    zeltk::setEnabledByParent(this,
+                              !(!isTopLevel() && !parent->isEnabled()) && (wasEnabled || !w->selfDisabled));
+    zeltk::inheritLook(this);
+    zeltk::applyBackground(this);
+    if (showIt) {
+        show();
+    } else {
+        w->moved = w->resized = false;
+        QApplication::postEvent(this, new QMoveEvent(pos(), w->oldPos));
+        QApplication::postEvent(this, new QResizeEvent(size(), w->oldSize));
+    }
+    QEvent event(QEvent::Reparent);
+    QApplication::sendEvent(this, &event);
 }

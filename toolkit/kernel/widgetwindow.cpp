@@ -44,7 +44,8 @@ void announce(QWidget* window)
         className[0] = static_cast<char>(className[0] - 'a' + 'A');
     x11::announceWindow(window->winId(), program, className);
     x11::setTitle(window->winId(), program);
-    x11::setWindowType(window->winId(), window->isDialog() ? x11::WindowType::Dialog : x11::WindowType::Normal);
+    x11::setWindowType(window->winId(),
+                       window->isDialog() ? x11::WindowType::Dialog : x11::WindowType::Normal);
     const QWidget* owner = ownerOf(window);
     if (owner && !owner->isDesktop())
         x11::setTransientFor(window->winId(), owner->winId());
@@ -55,13 +56,14 @@ void announce(QWidget* window)
 void applySizeHints(QWidget* window)
 {
     const WidgetData* data = dataOf(window);
-    x11::setSizeHints(window->winId(), {data->frame.x(), data->frame.y(), data->placed, data->rect.width(), data->rect.height(),
-                                        data->minimum.width(), data->minimum.height(), data->maximum.width(), data->maximum.height(),
-                                        data->base.width(), data->base.height(), data->step.width(), data->step.height()});
+    x11::setSizeHints(window->winId(), {data->frame.x(), data->frame.y(), data->placed, data->rect.width(),
+                                        data->rect.height(), data->minimum.width(), data->minimum.height(),
+                                        data->maximum.width(), data->maximum.height(), data->base.width(),
+                                        data->base.height(), data->step.width(), data->step.height()});
 }
 
-// The frame is what lies between the window and the root's child that holds it; its size is learnt from where the
-// window has come to lie.
+// The frame is what lies between the window and the root's child that holds it; its size is learnt from where
+// the window has come to lie.
 void windowReparented(QWidget* window)
 {
     int x = 0;
@@ -167,7 +169,8 @@ void QWidget::showMinimized()
 void QWidget::showMaximized()
 {
     if (isTopLevel())
-        x11::requestState(winId(), isVisible(), "_NET_WM_STATE_MAXIMIZED_VERT", "_NET_WM_STATE_MAXIMIZED_HORZ", true);
+        x11::requestState(winId(), isVisible(), "_NET_WM_STATE_MAXIMIZED_VERT",
+                          "_NET_WM_STATE_MAXIMIZED_HORZ", true);
     w->maximized = true;
     show();
     sendStateChange(this, QEvent::WindowStateChange);
@@ -189,7 +192,8 @@ void QWidget::showFullScreen()
 void QWidget::showNormal()
 {
     if (isTopLevel() && w->maximized)
-        x11::requestState(winId(), isVisible(), "_NET_WM_STATE_MAXIMIZED_VERT", "_NET_WM_STATE_MAXIMIZED_HORZ", false);
+        x11::requestState(winId(), isVisible(), "_NET_WM_STATE_MAXIMIZED_VERT",
+                          "_NET_WM_STATE_MAXIMIZED_HORZ", false);
     if (isTopLevel() && w->fullScreen)
         x11::requestState(winId(), isVisible(), "_NET_WM_STATE_FULLSCREEN", nullptr, false);
     const bool changed = w->minimized || w->maximized || w->fullScreen;

@@ -11,9 +11,11 @@ namespace
 {
 
 const std::set<std::string> specifiers = {"virtual", "inline", "static", "explicit", "constexpr", "extern"};
-const std::set<std::string> elaborations = {"const", "volatile", "struct", "class", "enum", "union", "typename"};
-const std::set<std::string> basicTypes = {"void",  "bool", "char",   "short",    "int",      "long",   "float",
-                                          "double", "signed", "unsigned", "wchar_t", "char16_t", "char32_t", "auto"};
+const std::set<std::string> elaborations = {"const", "volatile", "struct",  "class",
+                                            "enum",  "union",    "typename"};
+const std::set<std::string> basicTypes = {"void",    "bool",     "char",     "short",  "int",
+                                          "long",    "float",    "double",   "signed", "unsigned",
+                                          "wchar_t", "char16_t", "char32_t", "auto"};
 
 bool opens(const Token& token)
 {
@@ -47,7 +49,8 @@ bool endsWithName(const std::vector<Token>& tokens)
     const std::string& last = tokens.back().text;
     if (basicTypes.count(last) || elaborations.count(last) || tokens[tokens.size() - 2].is("::"))
         return false;
-    return std::any_of(tokens.begin(), tokens.end() - 1, [](const Token& token) { return !elaborations.count(token.text); });
+    return std::any_of(tokens.begin(), tokens.end() - 1,
+                       [](const Token& token) { return !elaborations.count(token.text); });
 }
 
 Argument readArgument(std::vector<Token> tokens)
@@ -58,7 +61,8 @@ Argument readArgument(std::vector<Token> tokens)
         throw Error(0, "an argument without a type");
     for (const Token& token : tokens)
         if (token.is("(") || token.is("[") || token.is("."))
-            throw Error(token.line, "arrays, functions and ellipses cannot be arguments of signals and slots");
+            throw Error(token.line,
+                        "arrays, functions and ellipses cannot be arguments of signals and slots");
     return {joined(tokens, true), joined(tokens, false)};
 }
 
@@ -66,7 +70,8 @@ Argument readArgument(std::vector<Token> tokens)
 
 Function readFunction(const std::vector<Token>& tokens)
 {
-    const auto open = std::find_if(tokens.begin(), tokens.end(), [](const Token& token) { return token.is("("); });
+    const auto open =
+        std::find_if(tokens.begin(), tokens.end(), [](const Token& token) { return token.is("("); });
     if (open == tokens.begin() || open == tokens.end() || (open - 1)->kind != Token::Word)
         throw Error(tokens.front().line, "a function is expected here");
     Function function;
@@ -84,7 +89,8 @@ Function readFunction(const std::vector<Token>& tokens)
     if (inside.empty() || (inside.size() == 1 && inside.front().is("void")))
         return function;
     for (const std::vector<Token>& part : splitAtCommas(inside)) {
-        const auto assign = std::find_if(part.begin(), part.end(), [](const Token& token) { return token.is("="); });
+        const auto assign =
+            std::find_if(part.begin(), part.end(), [](const Token& token) { return token.is("="); });
         if (part.begin() == assign)
             throw Error((open - 1)->line, "an argument without a type");
         function.arguments.push_back(readArgument(std::vector<Token>(part.begin(), assign)));

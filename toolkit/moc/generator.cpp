@@ -35,21 +35,24 @@ void writeTable(std::ostream& out, const char* name, const std::vector<Member>& 
         return;
     out << "    static const QMetaData " << name << "[] = {\n";
     for (const Member& member : members)
-        out << "        {\"" << member.signature() << "\", QMetaData::" << accessName(member.access) << "},\n";
+        out << "        {\"" << member.signature() << "\", QMetaData::" << accessName(member.access)
+            << "},\n";
     out << "    };\n";
 }
 
 void writeMetaObject(std::ostream& out, const Class& c)
 {
     out << "QMetaObject* " << c.name << "::metaObj = 0;\n"
-        << "QMetaObjectCleanUp " << c.name << "::metaCleanUp(\"" << c.name << "\", &" << c.name << "::staticMetaObject);\n\n"
+        << "QMetaObjectCleanUp " << c.name << "::metaCleanUp(\"" << c.name << "\", &" << c.name
+        << "::staticMetaObject);\n\n"
         << "QMetaObject* " << c.name << "::staticMetaObject()\n{\n"
         << "    if (metaObj)\n        return metaObj;\n";
     writeTable(out, "slotTable", c.slotList);
     writeTable(out, "signalTable", c.signalList);
     out << "    metaObj = new QMetaObject(\"" << c.name << "\", " << c.base << "::staticMetaObject(), "
         << (c.slotList.empty() ? "0" : "slotTable") << ", " << c.slotList.size() << ", "
-        << (c.signalList.empty() ? "0" : "signalTable") << ", " << c.signalList.size() << ", 0, 0, 0, 0, 0, 0);\n"
+        << (c.signalList.empty() ? "0" : "signalTable") << ", " << c.signalList.size()
+        << ", 0, 0, 0, 0, 0, 0);\n"
         << "    metaCleanUp.setMetaObject(metaObj);\n    return metaObj;\n}\n\n";
 }
 
@@ -58,10 +61,13 @@ void writeNames(std::ostream& out, const Class& c)
     out << "QMetaObject* " << c.name << "::metaObject() const\n{\n    return staticMetaObject();\n}\n\n"
         << "const char* " << c.name << "::className() const\n{\n    return \"" << c.name << "\";\n}\n\n"
         << "void* " << c.name << "::qt_cast(const char* className)\n{\n"
-        << "    return qstrcmp(className, \"" << c.name << "\") == 0 ? this : " << c.base << "::qt_cast(className);\n}\n\n";
+        << "    return qstrcmp(className, \"" << c.name << "\") == 0 ? this : " << c.base
+        << "::qt_cast(className);\n}\n\n";
     for (const bool utf8 : {false, true})
-        out << "QString " << c.name << (utf8 ? "::trUtf8" : "::tr") << "(const char* text, const char* comment)\n{\n"
-            << "    return zeltk::translated(\"" << c.name << "\", text, comment, " << (utf8 ? "true" : "false") << ");\n}\n\n";
+        out << "QString " << c.name << (utf8 ? "::trUtf8" : "::tr")
+            << "(const char* text, const char* comment)\n{\n"
+            << "    return zeltk::translated(\"" << c.name << "\", text, comment, "
+            << (utf8 ? "true" : "false") << ");\n}\n\n";
 }
 
 void writeSignal(std::ostream& out, const Class& c, size_t index)
@@ -83,7 +89,8 @@ void writeSignal(std::ostream& out, const Class& c, size_t index)
     out << "    activate_signal(list, arguments);\n}\n\n";
 }
 
-void writeCalls(std::ostream& out, const Class& c, const char* function, const char* offset, const std::vector<Member>& members)
+void writeCalls(std::ostream& out, const Class& c, const char* function, const char* offset,
+                const std::vector<Member>& members)
 {
     out << "bool " << c.name << "::" << function << "(int id, QUObject* arguments)\n{\n";
     if (!members.empty()) {
@@ -101,9 +108,11 @@ void writeCalls(std::ostream& out, const Class& c, const char* function, const c
 
 } // namespace
 
-void generate(std::ostream& out, const std::string& inputName, const std::string& include, const std::vector<Class>& classes)
+void generate(std::ostream& out, const std::string& inputName, const std::string& include,
+              const std::vector<Class>& classes)
 {
-    out << "// Meta-object code of " << inputName << ", made by zeltk-moc. Changes are lost when it is made again.\n";
+    out << "// Meta-object code of " << inputName
+        << ", made by zeltk-moc. Changes are lost when it is made again.\n";
     if (!include.empty())
         out << "#include \"" << include << "\"\n";
     out << "#include <qmetaobject.h>\n";

@@ -10,7 +10,8 @@ namespace moc
 {
 
 // `include` is the header to include, empty for code that a source includes itself.
-void generate(std::ostream& out, const std::string& inputName, const std::string& include, const std::vector<Class>& classes);
+void generate(std::ostream& out, const std::string& inputName, const std::string& include,
+              const std::vector<Class>& classes);
 
 } // namespace moc
 

@@ -61,7 +61,8 @@ private:
             skipLine();
         } else if (startsWord(c)) {
             readWord();
-        } else if (std::isdigit(static_cast<unsigned char>(c)) || (c == '.' && std::isdigit(static_cast<unsigned char>(at(1))))) {
+        } else if (std::isdigit(static_cast<unsigned char>(c)) ||
+                   (c == '.' && std::isdigit(static_cast<unsigned char>(at(1))))) {
             readNumber();
         } else if (c == '"' || c == '\'') {
             readLiteral(0);
@@ -106,7 +107,8 @@ private:
             ++length;
         const std::string word = source.substr(place, length);
         const bool prefix = word == "L" || word == "u" || word == "U" || word == "u8";
-        if (at(length) == '"' && !word.empty() && word.back() == 'R' && (word == "R" || word == "LR" || word == "uR" || word == "UR" || word == "u8R"))
+        if (at(length) == '"' && !word.empty() && word.back() == 'R' &&
+            (word == "R" || word == "LR" || word == "uR" || word == "UR" || word == "u8R"))
             readRawString(length);
         else if (prefix && (at(length) == '"' || at(length) == '\''))
             readLiteral(length);
@@ -117,8 +119,10 @@ private:
     void readNumber()
     {
         size_t length = 1;
-        while (continuesWord(at(length)) || at(length) == '.' || (at(length) == '\'' && continuesWord(at(length + 1))) ||
-               ((at(length) == '+' || at(length) == '-') && std::string("eEpP").find(at(length - 1)) != std::string::npos))
+        while (continuesWord(at(length)) || at(length) == '.' ||
+               (at(length) == '\'' && continuesWord(at(length + 1))) ||
+               ((at(length) == '+' || at(length) == '-') &&
+                std::string("eEpP").find(at(length - 1)) != std::string::npos))
             ++length;
         add(Token::Number, length, line);
     }

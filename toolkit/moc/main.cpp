@@ -94,7 +94,8 @@ int run(const Options& options)
             std::cerr << options.input << ":1: warning: no class has Q_OBJECT\n";
         std::ostringstream code;
         const size_t slash = options.input.rfind('/');
-        moc::generate(code, options.input.substr(slash == std::string::npos ? 0 : slash + 1), includeName(options), contents.classes);
+        moc::generate(code, options.input.substr(slash == std::string::npos ? 0 : slash + 1),
+                      includeName(options), contents.classes);
         if (options.output.empty()) {
             std::cout << code.str();
             return std::cout.flush() ? 0 : fail("cannot write to the standard output");

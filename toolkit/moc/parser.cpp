@@ -210,12 +210,14 @@ private:
                 const size_t from = place;
                 skipBalanced("<", ">");
                 if (inFirst)
-                    first.insert(first.end(), tokens.begin() + static_cast<long>(from), tokens.begin() + static_cast<long>(place));
+                    first.insert(first.end(), tokens.begin() + static_cast<long>(from),
+                                 tokens.begin() + static_cast<long>(place));
                 continue;
             }
             if (at().is(","))
                 inFirst = false;
-            const bool word = at().is("virtual") || at().is("public") || at().is("protected") || at().is("private");
+            const bool word =
+                at().is("virtual") || at().is("public") || at().is("protected") || at().is("private");
             if (inFirst && !word)
                 first.push_back(at());
             next();
@@ -255,7 +257,8 @@ private:
 
     bool isOtherDeclaration() const
     {
-        return at().is("enum") || at().is("typedef") || at().is("friend") || at().is("using") || at().is("union");
+        return at().is("enum") || at().is("typedef") || at().is("friend") || at().is("using") ||
+               at().is("union");
     }
 
     // "public:", "private slots:", "signals:" and their like.
@@ -278,7 +281,9 @@ private:
             throw Error(word.line, "':' expected behind " + word.text);
         }
         *section = isSlots ? Section::Slots : Section::Plain;
-        *access = word.is("public") ? Access::Public : word.is("protected") ? Access::Protected : Access::Private;
+        *access = word.is("public")      ? Access::Public
+                  : word.is("protected") ? Access::Protected
+                                         : Access::Private;
         place += isSlots ? 3 : 2;
         return true;
     }
@@ -289,13 +294,15 @@ private:
         const int line = at().line;
         while (!at().is("(")) {
             if (at().kind == Token::End || at().is(";") || at().is("}") || at().is("{"))
-                throw Error(line, section == Section::Signals ? "a signal is expected here" : "a slot is expected here");
+                throw Error(line, section == Section::Signals ? "a signal is expected here"
+                                                              : "a slot is expected here");
             next();
         }
         skipBalanced("(", ")");
         Function function;
         try {
-            function = readFunction(std::vector<Token>(tokens.begin() + static_cast<long>(from), tokens.begin() + static_cast<long>(place)));
+            function = readFunction(std::vector<Token>(tokens.begin() + static_cast<long>(from),
+                                                       tokens.begin() + static_cast<long>(place)));
         } catch (const Error& error) {
             throw Error(error.line ? error.line : line, error.what());
         }
@@ -327,7 +334,8 @@ private:
     {
         for (size_t left = function.defaults + 1; left-- > 0;) {
             const auto end = function.arguments.end() - static_cast<long>(left);
-            found->slotList.push_back({function.name, std::vector<Argument>(function.arguments.begin(), end), access});
+            found->slotList.push_back(
+                {function.name, std::vector<Argument>(function.arguments.begin(), end), access});
         }
     }
 
@@ -335,7 +343,8 @@ private:
     {
         if (!found.hasMacro) {
             if (!found.signalList.empty() || !found.slotList.empty())
-                contents.warnings.push_back({found.line, "the class " + found.name + " has signals or slots, but no Q_OBJECT"});
+                contents.warnings.push_back(
+                    {found.line, "the class " + found.name + " has signals or slots, but no Q_OBJECT"});
             return;
         }
         if (found.base.empty())
@@ -354,8 +363,10 @@ std::string joined(const std::vector<Token>& tokens, bool forCompiler)
 {
     std::string text;
     for (const Token& token : tokens) {
-        const bool words = !text.empty() && isWordCharacter(text.back()) && isWordCharacter(token.text.front());
-        const bool angles = forCompiler && !text.empty() && ((text.back() == '>' && token.is(">")) || (text.back() == '<' && token.is("::")));
+        const bool words =
+            !text.empty() && isWordCharacter(text.back()) && isWordCharacter(token.text.front());
+        const bool angles = forCompiler && !text.empty() &&
+                            ((text.back() == '>' && token.is(">")) || (text.back() == '<' && token.is("::")));
         text += words || angles ? " " + token.text : token.text;
     }
     return text;

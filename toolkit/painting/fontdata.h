@@ -15,7 +15,17 @@ class Font;
 struct FontData {
     int references;
     // Which of the fields below were set; the others come from the parent's or the application's font.
-    enum Field { Family = 1, Size = 2, Weight = 4, Italic = 8, Underline = 16, StrikeOut = 32, Hint = 64, Pitch = 128, All = 255 };
+    enum Field {
+        Family = 1,
+        Size = 2,
+        Weight = 4,
+        Italic = 8,
+        Underline = 16,
+        StrikeOut = 32,
+        Hint = 64,
+        Pitch = 128,
+        All = 255
+    };
     int set;
 
     QString family;

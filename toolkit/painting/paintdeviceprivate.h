@@ -8,7 +8,10 @@ namespace zeltk
 {
 
 struct PaintDeviceAccess {
-    static bool isWidget(const QPaintDevice* device) { return device->deviceKind == QPaintDevice::WidgetDevice; }
+    static bool isWidget(const QPaintDevice* device)
+    {
+        return device->deviceKind == QPaintDevice::WidgetDevice;
+    }
 };
 
 } // namespace zeltk

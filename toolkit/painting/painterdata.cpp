@@ -21,7 +21,9 @@ x11::CapStyle capOf(Qt::PenCapStyle cap)
 
 x11::JoinStyle joinOf(Qt::PenJoinStyle join)
 {
-    return join == Qt::BevelJoin ? x11::JoinBeveled : join == Qt::RoundJoin ? x11::JoinRounded : x11::JoinMitered;
+    return join == Qt::BevelJoin   ? x11::JoinBeveled
+           : join == Qt::RoundJoin ? x11::JoinRounded
+                                   : x11::JoinMitered;
 }
 
 // Dashes and gaps of a pen one unit wide.

@@ -26,7 +26,8 @@ bool readPng(const std::string& fileName, PngPicture* picture)
     }
     picture->pixels.clear();
     for (size_t i = 0; i < bytes.size(); i += 4)
-        picture->pixels.push_back(static_cast<unsigned>(bytes[i + 3]) << 24 | static_cast<unsigned>(bytes[i]) << 16 |
+        picture->pixels.push_back(static_cast<unsigned>(bytes[i + 3]) << 24 |
+                                  static_cast<unsigned>(bytes[i]) << 16 |
                                   static_cast<unsigned>(bytes[i + 1]) << 8 | bytes[i + 2]);
     return true;
 }

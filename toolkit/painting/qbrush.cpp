@@ -3,24 +3,19 @@
 
 #include <qpixmap.h>
 
-QBrush::QBrush() : s(NoBrush), c(0, 0, 0), p(nullptr)
-{
-}
+QBrush::QBrush() : s(NoBrush), c(0, 0, 0), p(nullptr) {}
 
-QBrush::QBrush(BrushStyle style) : s(style), c(0, 0, 0), p(nullptr)
-{
-}
+QBrush::QBrush(BrushStyle style) : s(style), c(0, 0, 0), p(nullptr) {}
 
-QBrush::QBrush(const QColor& color, BrushStyle style) : s(style), c(color), p(nullptr)
-{
-}
+QBrush::QBrush(const QColor& color, BrushStyle style) : s(style), c(color), p(nullptr) {}
 
 QBrush::QBrush(const QColor& color, const QPixmap& pixmap) : s(CustomPattern), c(color), p(nullptr)
 {
     setPixmap(pixmap);
 }
 
-QBrush::QBrush(const QBrush& other) : Qt(other), s(other.s), c(other.c), p(other.p ? new QPixmap(*other.p) : nullptr)
+QBrush::QBrush(const QBrush& other)
+    : Qt(other), s(other.s), c(other.c), p(other.p ? new QPixmap(*other.p) : nullptr)
 {
 }
 

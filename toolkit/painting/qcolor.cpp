@@ -36,7 +36,8 @@ bool parseDigits(const std::string& text, QRgb* rgb)
     const size_t digits = text.size() - 1;
     if (digits == 0 || digits % 3 != 0 || digits > 12)
         return false;
-    if (!std::all_of(text.begin() + 1, text.end(), [](char c) { return std::isxdigit(static_cast<uchar>(c)); }))
+    if (!std::all_of(text.begin() + 1, text.end(),
+                     [](char c) { return std::isxdigit(static_cast<uchar>(c)); }))
         return false;
     int parts[3];
     for (size_t i = 0; i < 3; ++i) {
@@ -63,9 +64,7 @@ QColor::QColor(int x, int y, int z, Spec spec) : value(invalidValue), valid(fals
         setRgb(x, y, z);
 }
 
-QColor::QColor(QRgb rgb, uint) : value(rgb), valid(true)
-{
-}
+QColor::QColor(QRgb rgb, uint) : value(rgb), valid(true) {}
 
 QColor::QColor(const QString& name) : value(invalidValue), valid(false)
 {
@@ -143,7 +142,8 @@ void QColor::setHsv(int h, int s, int v)
     const int low = rounded(v * (255 - s), 255);
     const int falling = rounded(v * (255 * 60 - s * f), 255 * 60);
     const int rising = rounded(v * (255 * 60 - s * (60 - f)), 255 * 60);
-    const int table[6][3] = {{v, rising, low}, {falling, v, low}, {low, v, rising}, {low, falling, v}, {rising, low, v}, {v, low, falling}};
+    const int table[6][3] = {{v, rising, low},  {falling, v, low}, {low, v, rising},
+                             {low, falling, v}, {rising, low, v},  {v, low, falling}};
     setRgb(qRgb(table[sector][0], table[sector][1], table[sector][2]));
 }
 
@@ -220,10 +220,12 @@ namespace
 {
 
 // color0 and color1 are the two values of a bitmap.
-QColor global[] = {QColor(QRgb(0x01ffffff)), QColor(QRgb(0x01000000)), QColor(0, 0, 0),       QColor(255, 255, 255), QColor(128, 128, 128),
-                   QColor(160, 160, 164),    QColor(192, 192, 192),    QColor(255, 0, 0),     QColor(0, 255, 0),     QColor(0, 0, 255),
-                   QColor(0, 255, 255),      QColor(255, 0, 255),      QColor(255, 255, 0),   QColor(128, 0, 0),     QColor(0, 128, 0),
-                   QColor(0, 0, 128),        QColor(0, 128, 128),      QColor(128, 0, 128),   QColor(128, 128, 0)};
+QColor global[] = {
+    QColor(QRgb(0x01ffffff)), QColor(QRgb(0x01000000)), QColor(0, 0, 0),       QColor(255, 255, 255),
+    QColor(128, 128, 128),    QColor(160, 160, 164),    QColor(192, 192, 192), QColor(255, 0, 0),
+    QColor(0, 255, 0),        QColor(0, 0, 255),        QColor(0, 255, 255),   QColor(255, 0, 255),
+    QColor(255, 255, 0),      QColor(128, 0, 0),        QColor(0, 128, 0),     QColor(0, 0, 128),
+    QColor(0, 128, 128),      QColor(128, 0, 128),      QColor(128, 128, 0)};
 
 } // namespace
 

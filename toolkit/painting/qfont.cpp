@@ -51,8 +51,9 @@ struct HintFamily {
 };
 
 const HintFamily hintFamilies[] = {
-    {QFont::Helvetica, "Helvetica", "sans-serif"}, {QFont::Times, "Times", "serif"},        {QFont::Courier, "Courier", "monospace"},
-    {QFont::OldEnglish, "Old English", "sans-serif"}, {QFont::System, "Helvetica", "sans-serif"}, {QFont::AnyStyle, "Helvetica", "sans-serif"},
+    {QFont::Helvetica, "Helvetica", "sans-serif"}, {QFont::Times, "Times", "serif"},
+    {QFont::Courier, "Courier", "monospace"},      {QFont::OldEnglish, "Old English", "sans-serif"},
+    {QFont::System, "Helvetica", "sans-serif"},    {QFont::AnyStyle, "Helvetica", "sans-serif"},
 };
 
 const HintFamily& hintFamily(QFont::StyleHint hint)
@@ -100,7 +101,8 @@ const x11::Font* faceOf(const QFont& font)
 {
     FontData* data = FontAccess::data(font);
     if (!data->face && x11::connected())
-        data->face = x11::openFont({familiesOf(data), pixelSizeOf(font), data->weight, data->italic, !(data->strategy & QFont::NoAntialias)});
+        data->face = x11::openFont({familiesOf(data), pixelSizeOf(font), data->weight, data->italic,
+                                    !(data->strategy & QFont::NoAntialias)});
     return data->face;
 }
 
@@ -121,7 +123,8 @@ QFont::QFont() : d(zeltk::FontAccess::data(applicationFont()))
 }
 
 QFont::QFont(const QString& family, int pointSize, int weight, bool italic)
-    : d(newData(family, pointSize < 1 ? 12 : pointSize, weight, italic, FontData::Family | FontData::Size | FontData::Weight | FontData::Italic))
+    : d(newData(family, pointSize < 1 ? 12 : pointSize, weight, italic,
+                FontData::Family | FontData::Size | FontData::Weight | FontData::Italic))
 {
 }
 
@@ -335,18 +338,23 @@ bool QFont::operator==(const QFont& other) const
 {
     const FontData* a = d;
     const FontData* b = other.d;
-    return a == b || (a->family == b->family && a->tenths == b->tenths && a->pixelSize == b->pixelSize && a->weight == b->weight &&
-                      a->italic == b->italic && a->underline == b->underline && a->overline == b->overline && a->strikeOut == b->strikeOut &&
-                      a->fixedPitch == b->fixedPitch && a->raw == b->raw && a->hint == b->hint && a->strategy == b->strategy);
+    return a == b ||
+           (a->family == b->family && a->tenths == b->tenths && a->pixelSize == b->pixelSize &&
+            a->weight == b->weight && a->italic == b->italic && a->underline == b->underline &&
+            a->overline == b->overline && a->strikeOut == b->strikeOut && a->fixedPitch == b->fixedPitch &&
+            a->raw == b->raw && a->hint == b->hint && a->strategy == b->strategy);
 }
 
 QString QFont::toString() const
 {
     const QString comma(",");
-    return d->family + comma + QString::number(static_cast<double>(pointSizeFloat())) + comma + QString::number(d->pixelSize) + comma +
-           QString::number(static_cast<int>(d->hint)) + comma + QString::number(d->weight) + comma + QString::number(static_cast<int>(d->italic)) +
-           comma + QString::number(static_cast<int>(d->underline)) + comma + QString::number(static_cast<int>(d->strikeOut)) + comma +
-           QString::number(static_cast<int>(d->fixedPitch)) + comma + QString::number(static_cast<int>(d->raw));
+    return d->family + comma + QString::number(static_cast<double>(pointSizeFloat())) + comma +
+           QString::number(d->pixelSize) + comma + QString::number(static_cast<int>(d->hint)) + comma +
+           QString::number(d->weight) + comma + QString::number(static_cast<int>(d->italic)) + comma +
+           QString::number(static_cast<int>(d->underline)) + comma +
+           QString::number(static_cast<int>(d->strikeOut)) + comma +
+           QString::number(static_cast<int>(d->fixedPitch)) + comma +
+           QString::number(static_cast<int>(d->raw));
 }
 
 bool QFont::fromString(const QString& text)

@@ -31,17 +31,11 @@ int lineWidthOf(const QFont& font)
 
 } // namespace
 
-QFontMetrics::QFontMetrics(const QFont& f) : font(f)
-{
-}
+QFontMetrics::QFontMetrics(const QFont& f) : font(f) {}
 
-QFontMetrics::QFontMetrics(const QFontMetrics& other) : font(other.font)
-{
-}
+QFontMetrics::QFontMetrics(const QFontMetrics& other) : font(other.font) {}
 
-QFontMetrics::~QFontMetrics()
-{
-}
+QFontMetrics::~QFontMetrics() {}
 
 QFontMetrics& QFontMetrics::operator=(const QFontMetrics& other)
 {
@@ -116,7 +110,9 @@ int QFontMetrics::width(QChar c) const
 
 int QFontMetrics::charWidth(const QString& text, int position) const
 {
-    return position < 0 || position >= static_cast<int>(text.length()) ? 0 : width(text.at(static_cast<uint>(position)));
+    return position < 0 || position >= static_cast<int>(text.length())
+               ? 0
+               : width(text.at(static_cast<uint>(position)));
 }
 
 QRect QFontMetrics::boundingRect(const QString& text, int length) const
@@ -137,9 +133,12 @@ QRect QFontMetrics::boundingRect(QChar c) const
     return QRect(glyph.x, glyph.y, glyph.width, glyph.height);
 }
 
-QRect QFontMetrics::boundingRect(int x, int y, int w, int h, int flags, const QString& text, int length, int tabStops, int* tabArray) const
+QRect QFontMetrics::boundingRect(int x, int y, int w, int h, int flags, const QString& text, int length,
+                                 int tabStops, int* tabArray) const
 {
-    return zeltk::layoutText(font, QRect(x, y, w, h), {flags, tabStops, tabArray}, zeltk::fromUtf16(firstOf(text, length))).bounding;
+    return zeltk::layoutText(font, QRect(x, y, w, h), {flags, tabStops, tabArray},
+                             zeltk::fromUtf16(firstOf(text, length)))
+        .bounding;
 }
 
 QSize QFontMetrics::size(int flags, const QString& text, int length, int tabStops, int* tabArray) const
@@ -162,9 +161,7 @@ int QFontMetrics::lineWidth() const
     return lineWidthOf(font);
 }
 
-QFontInfo::QFontInfo(const QFont& font) : wanted(font)
-{
-}
+QFontInfo::QFontInfo(const QFont& font) : wanted(font) {}
 
 QString QFontInfo::family() const
 {

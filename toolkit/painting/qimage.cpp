@@ -33,9 +33,7 @@ bool isPng(const char* format)
 
 } // namespace
 
-QImage::QImage() : d(new ImageData{1, 0, 0, false, {}})
-{
-}
+QImage::QImage() : d(new ImageData{1, 0, 0, false, {}}) {}
 
 QImage::QImage(int width, int height, int depth, int numColors, Endian bitOrder) : QImage()
 {
@@ -79,10 +77,11 @@ QImage& QImage::operator=(const QPixmap& pixmap)
 
 bool QImage::operator==(const QImage& other) const
 {
-    return d == other.d || (d->width == other.d->width && d->height == other.d->height && d->alpha == other.d->alpha &&
-                            std::equal(d->pixels.begin(), d->pixels.end(), other.d->pixels.begin(), [this](QRgb a, QRgb b) {
-                                return d->alpha ? a == b : (a & RGB_MASK) == (b & RGB_MASK);
-                            }));
+    return d == other.d ||
+           (d->width == other.d->width && d->height == other.d->height && d->alpha == other.d->alpha &&
+            std::equal(d->pixels.begin(), d->pixels.end(), other.d->pixels.begin(), [this](QRgb a, QRgb b) {
+                return d->alpha ? a == b : (a & RGB_MASK) == (b & RGB_MASK);
+            }));
 }
 
 void QImage::detach()
@@ -110,7 +109,8 @@ QImage QImage::copy(int x, int y, int w, int h, int) const
     for (int row = 0; row < h; ++row)
         for (int column = 0; column < w; ++column)
             if (valid(x + column, y + row))
-                result.setPixel(column, row, d->pixels[static_cast<size_t>((y + row) * d->width + x + column)]);
+                result.setPixel(column, row,
+                                d->pixels[static_cast<size_t>((y + row) * d->width + x + column)]);
     return result;
 }
 
@@ -224,7 +224,8 @@ QImage QImage::mirror(bool horizontally, bool vertically) const
 bool QImage::load(const QString& fileName, const char* format)
 {
     zeltk::PngPicture picture;
-    if (!isPng(format) || !zeltk::readPng(zeltk::toUtf8(fileName), &picture) || !create(picture.width, picture.height, 32))
+    if (!isPng(format) || !zeltk::readPng(zeltk::toUtf8(fileName), &picture) ||
+        !create(picture.width, picture.height, 32))
         return false;
     d->pixels = picture.pixels;
     d->alpha = picture.alpha;
@@ -233,5 +234,6 @@ bool QImage::load(const QString& fileName, const char* format)
 
 bool QImage::save(const QString& fileName, const char* format, int) const
 {
-    return !isNull() && isPng(format) && zeltk::writePng(zeltk::toUtf8(fileName), {d->width, d->height, d->alpha, d->pixels});
+    return !isNull() && isPng(format) &&
+           zeltk::writePng(zeltk::toUtf8(fileName), {d->width, d->height, d->alpha, d->pixels});
 }

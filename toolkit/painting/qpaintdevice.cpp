@@ -13,9 +13,7 @@
 
 namespace x11 = zeltk::x11;
 
-QPaintDevice::QPaintDevice(uint kind) : hd(0), deviceKind(kind), painters(0)
-{
-}
+QPaintDevice::QPaintDevice(uint kind) : hd(0), deviceKind(kind), painters(0) {}
 
 QPaintDevice::~QPaintDevice()
 {
@@ -52,14 +50,16 @@ const QPixmap* asPixmap(const QPaintDevice* device)
 }
 
 // A copy through a mask: first what the mask leaves, then what it lets through.
-void blitMasked(x11::GcKey key, Qt::HANDLE to, int dx, int dy, const QPixmap* from, int sx, int sy, int w, int h)
+void blitMasked(x11::GcKey key, Qt::HANDLE to, int dx, int dy, const QPixmap* from, int sx, int sy, int w,
+                int h)
 {
     key.fill = x11::FillWithColor;
     const QRegion visible(*from->mask());
     const QMemArray<QRect> rects = (visible & QRegion(sx, sy, w, h)).rects();
     for (uint i = 0; i < rects.size(); ++i) {
         const QRect& r = rects.at(i);
-        x11::copyArea(from->handle(), to, x11::gcFor(key), r.x(), r.y(), r.width(), r.height(), dx + r.x() - sx, dy + r.y() - sy);
+        x11::copyArea(from->handle(), to, x11::gcFor(key), r.x(), r.y(), r.width(), r.height(),
+                      dx + r.x() - sx, dy + r.y() - sy);
     }
 }
 
@@ -69,8 +69,8 @@ namespace zeltk
 {
 
 // Also used by painters, whose context brings the clip along.
-void blit(const x11::GcKey& base, Qt::HANDLE to, bool toBitmap, int dx, int dy, const QPaintDevice* src, int sx, int sy, int w, int h,
-          bool ignoreMask)
+void blit(const x11::GcKey& base, Qt::HANDLE to, bool toBitmap, int dx, int dy, const QPaintDevice* src,
+          int sx, int sy, int w, int h, bool ignoreMask)
 {
     const QPixmap* pixmap = asPixmap(src);
     x11::GcKey key = base;
@@ -97,7 +97,8 @@ void blit(const x11::GcKey& base, Qt::HANDLE to, bool toBitmap, int dx, int dy, 
 
 } // namespace zeltk
 
-void bitBlt(QPaintDevice* dst, int dx, int dy, const QPaintDevice* src, int sx, int sy, int sw, int sh, Qt::RasterOp rop, bool ignoreMask)
+void bitBlt(QPaintDevice* dst, int dx, int dy, const QPaintDevice* src, int sx, int sy, int sw, int sh,
+            Qt::RasterOp rop, bool ignoreMask)
 {
     if (!src || !dst || !src->handle() || !dst->handle())
         return;

@@ -14,16 +14,15 @@ namespace zeltk
 WidgetPaintStateFunction widgetPaintState = nullptr;
 }
 
-QPainter::QPainter() : d(new PainterData)
-{
-}
+QPainter::QPainter() : d(new PainterData) {}
 
 QPainter::QPainter(const QPaintDevice* device, bool unclipped) : d(new PainterData)
 {
     begin(device, unclipped);
 }
 
-QPainter::QPainter(const QPaintDevice* device, const QWidget* copyAttributes, bool unclipped) : d(new PainterData)
+QPainter::QPainter(const QPaintDevice* device, const QWidget* copyAttributes, bool unclipped)
+    : d(new PainterData)
 {
     begin(device, copyAttributes, unclipped);
 }
@@ -50,7 +49,8 @@ void takeAttributes(const zeltk::WidgetPaintState& from, PainterState* state)
 bool QPainter::begin(const QPaintDevice* device, bool unclipped)
 {
     if (isActive()) {
-        qWarning("QPainter::begin: Painter is already active.\n\tYou must end() the painter before a second begin()");
+        qWarning("QPainter::begin: Painter is already active.\n\tYou must end() the painter before a second "
+                 "begin()");
         return false;
     }
     if (!device) {

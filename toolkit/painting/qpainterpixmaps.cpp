@@ -13,8 +13,8 @@ namespace x11 = zeltk::x11;
 namespace
 {
 
-// The image under a matrix without its translation; transparent where nothing comes to lie. `origin` is the place of
-// its corner.
+// The image under a matrix without its translation; transparent where nothing comes to lie. `origin` is the
+// place of its corner.
 QImage transformed(const QImage& image, const QWMatrix& matrix, QPoint* origin)
 {
     const QWMatrix linear(matrix.m11(), matrix.m12(), matrix.m21(), matrix.m22(), 0, 0);
@@ -46,14 +46,16 @@ void QPainter::drawPixmap(int x, int y, const QPixmap& pixmap, int sx, int sy, i
 {
     if (!isActive() || pixmap.isNull())
         return;
-    const QRect part = QRect(sx, sy, sw < 0 ? pixmap.width() - sx : sw, sh < 0 ? pixmap.height() - sy : sh) & pixmap.rect();
+    const QRect part =
+        QRect(sx, sy, sw < 0 ? pixmap.width() - sx : sw, sh < 0 ? pixmap.height() - sy : sh) & pixmap.rect();
     if (part.isEmpty())
         return;
     x += part.x() - sx;
     y += part.y() - sy;
     d->map(&x, &y);
     if (d->transform == zeltk::Transform::None || d->transform == zeltk::Transform::Translation) {
-        zeltk::blit(d->baseKey(), d->drawable, d->bitmap, x, y, &pixmap, part.x(), part.y(), part.width(), part.height(), false);
+        zeltk::blit(d->baseKey(), d->drawable, d->bitmap, x, y, &pixmap, part.x(), part.y(), part.width(),
+                    part.height(), false);
         return;
     }
     QPoint origin;
@@ -61,7 +63,8 @@ void QPainter::drawPixmap(int x, int y, const QPixmap& pixmap, int sx, int sy, i
     if (image.isNull())
         return;
     const QPixmap turned(image);
-    zeltk::blit(d->baseKey(), d->drawable, d->bitmap, x + origin.x(), y + origin.y(), &turned, 0, 0, turned.width(), turned.height(), false);
+    zeltk::blit(d->baseKey(), d->drawable, d->bitmap, x + origin.x(), y + origin.y(), &turned, 0, 0,
+                turned.width(), turned.height(), false);
 }
 
 void QPainter::drawImage(int x, int y, const QImage& image, int sx, int sy, int sw, int sh, int)
@@ -79,7 +82,8 @@ void QPainter::drawTiledPixmap(int x, int y, int w, int h, const QPixmap& pixmap
 {
     if (!isActive() || pixmap.isNull() || w <= 0 || h <= 0)
         return;
-    const bool plain = pixmap.depth() > 1 && !pixmap.mask() && d->mapsRectsToRects() && d->transform != zeltk::Transform::Scaling;
+    const bool plain = pixmap.depth() > 1 && !pixmap.mask() && d->mapsRectsToRects() &&
+                       d->transform != zeltk::Transform::Scaling;
     if (plain) {
         const QRect r = d->mapRect(QRect(x, y, w, h));
         x11::GcKey key = d->baseKey();

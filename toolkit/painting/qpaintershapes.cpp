@@ -12,7 +12,8 @@ namespace x11 = zeltk::x11;
 namespace
 {
 
-// The outline's corners; X draws the last pixel row and column beyond a polygon's corners, so they are one less.
+// The outline's corners; X draws the last pixel row and column beyond a polygon's corners, so they are one
+// less.
 QPointArray cornersOf(const QRect& r)
 {
     QPointArray corners;
@@ -108,7 +109,8 @@ void QPainter::drawEllipse(int x, int y, int w, int h)
     const QRect r = d->mapRect(rect);
     const int less = d->hasPen() ? 1 : 0;
     if (d->hasBrush())
-        x11::fillArc(d->drawable, d->forBrush(), r.x(), r.y(), r.width() - less, r.height() - less, 0, 360 * 64, false);
+        x11::fillArc(d->drawable, d->forBrush(), r.x(), r.y(), r.width() - less, r.height() - less, 0,
+                     360 * 64, false);
     if (d->hasPen())
         x11::drawArc(d->drawable, d->forPen(), r.x(), r.y(), r.width() - 1, r.height() - 1, 0, 360 * 64);
 }
@@ -125,7 +127,8 @@ void QPainter::drawArc(int x, int y, int w, int h, int startAngle, int angleLeng
         return;
     }
     const QRect r = d->mapRect(rect);
-    x11::drawArc(d->drawable, d->forPen(), r.x(), r.y(), r.width() - 1, r.height() - 1, startAngle * 4, angleLength * 4);
+    x11::drawArc(d->drawable, d->forPen(), r.x(), r.y(), r.width() - 1, r.height() - 1, startAngle * 4,
+                 angleLength * 4);
 }
 
 void QPainter::drawPie(int x, int y, int w, int h, int startAngle, int angleLength)
@@ -158,7 +161,8 @@ void QPainter::drawRoundRect(int x, int y, int w, int h, int xRound, int yRound)
     const int ry = r.height() * std::min(yRound, 99) / 100;
     const int right = r.right() - rx + 1;
     const int bottom = r.bottom() - ry + 1;
-    const QPoint corners[4] = {QPoint(right, r.top()), r.topLeft(), QPoint(r.left(), bottom), QPoint(right, bottom)};
+    const QPoint corners[4] = {QPoint(right, r.top()), r.topLeft(), QPoint(r.left(), bottom),
+                               QPoint(right, bottom)};
     QPointArray outline;
     for (int quarter = 0; quarter < 4; ++quarter) {
         QPointArray arc;

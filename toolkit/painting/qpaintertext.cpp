@@ -53,8 +53,9 @@ MaskPlace placeOf(const QFontMetrics& metrics, int x, int y, int width)
 void drawMaskedText(PainterData* d, const TextRun& run)
 {
     const MaskPlace place = placeOf(QFontMetrics(d->state.font), run.x, run.baseline, run.width);
-    const x11::XId mask = x11::textMask(zeltk::faceOf(d->state.font), place.width, place.height, run.x - place.left, run.baseline - place.top,
-                                        run.text.data(), run.text.size());
+    const x11::XId mask =
+        x11::textMask(zeltk::faceOf(d->state.font), place.width, place.height, run.x - place.left,
+                      run.baseline - place.top, run.text.data(), run.text.size());
     x11::GcKey key = d->baseKey();
     key.fill = x11::FillWithStipple;
     key.pattern = mask;
@@ -68,8 +69,9 @@ void drawMaskedText(PainterData* d, const TextRun& run)
 void drawTransformedText(PainterData* d, const TextRun& run)
 {
     const MaskPlace place = placeOf(QFontMetrics(d->state.font), run.x, run.baseline, run.width);
-    const x11::XId mask = x11::textMask(zeltk::faceOf(d->state.font), place.width, place.height, run.x - place.left, run.baseline - place.top,
-                                        run.text.data(), run.text.size());
+    const x11::XId mask =
+        x11::textMask(zeltk::faceOf(d->state.font), place.width, place.height, run.x - place.left,
+                      run.baseline - place.top, run.text.data(), run.text.size());
     const std::vector<std::uint32_t> bits = x11::readPixels(mask, true, 0, 0, place.width, place.height);
     x11::freePixmap(mask);
     bool invertible = false;
@@ -85,7 +87,8 @@ void drawTransformedText(PainterData* d, const TextRun& run)
             back.map(x + 0.5, y + 0.5, &fx, &fy);
             const int sx = static_cast<int>(std::floor(fx)) - place.left;
             const int sy = static_cast<int>(std::floor(fy)) - place.top;
-            if (sx >= 0 && sx < place.width && sy >= 0 && sy < place.height && bits[static_cast<size_t>(sy * place.width + sx)])
+            if (sx >= 0 && sx < place.width && sy >= 0 && sy < place.height &&
+                bits[static_cast<size_t>(sy * place.width + sx)])
                 points.push_back({static_cast<short>(x), static_cast<short>(y)});
         }
     if (!points.empty())
@@ -95,7 +98,8 @@ void drawTransformedText(PainterData* d, const TextRun& run)
 // In the program's coordinates.
 void drawRun(PainterData* d, TextRun run)
 {
-    const bool upright = d->transform == zeltk::Transform::None || d->transform == zeltk::Transform::Translation;
+    const bool upright =
+        d->transform == zeltk::Transform::None || d->transform == zeltk::Transform::Translation;
     if (!upright) {
         drawTransformedText(d, run);
         return;
@@ -105,12 +109,15 @@ void drawRun(PainterData* d, TextRun run)
         const QFontMetrics metrics(d->state.font);
         x11::GcKey key = d->baseKey();
         key.foreground = key.background;
-        d->fillDeviceRect(QRect(run.x, run.baseline - metrics.ascent(), run.width, metrics.height()), x11::gcFor(key));
+        d->fillDeviceRect(QRect(run.x, run.baseline - metrics.ascent(), run.width, metrics.height()),
+                          x11::gcFor(key));
     }
     if (d->state.rop == Qt::CopyROP) {
         const QColor& color = d->state.pen.color();
-        x11::drawText(d->drawable, d->bitmap, zeltk::faceOf(d->state.font), run.x, run.baseline, run.text.data(), run.text.size(),
-                      d->bitmap ? static_cast<std::uint32_t>(d->pixelOf(color)) : color.rgb() & RGB_MASK, d->clip.get());
+        x11::drawText(d->drawable, d->bitmap, zeltk::faceOf(d->state.font), run.x, run.baseline,
+                      run.text.data(), run.text.size(),
+                      d->bitmap ? static_cast<std::uint32_t>(d->pixelOf(color)) : color.rgb() & RGB_MASK,
+                      d->clip.get());
     } else {
         drawMaskedText(d, run);
     }
@@ -121,7 +128,8 @@ void drawMark(PainterData* d, TextMark mark)
 {
     const QFontMetrics metrics(d->state.font);
     d->map(&mark.x, &mark.baseline);
-    d->fillDeviceRect(QRect(mark.x, mark.baseline + metrics.underlinePos(), mark.width, metrics.lineWidth()), x11::gcFor(d->baseKey()));
+    d->fillDeviceRect(QRect(mark.x, mark.baseline + metrics.underlinePos(), mark.width, metrics.lineWidth()),
+                      x11::gcFor(d->baseKey()));
 }
 
 QString firstOf(const QString& text, int length)
@@ -145,12 +153,14 @@ void QPainter::drawText(int x, int y, const QString& text, int position, int len
     drawText(x, y, text.mid(static_cast<uint>(position), static_cast<uint>(length)), -1, direction);
 }
 
-void QPainter::drawText(int x, int y, int w, int h, int flags, const QString& text, int length, QRect* boundingRect)
+void QPainter::drawText(int x, int y, int w, int h, int flags, const QString& text, int length,
+                        QRect* boundingRect)
 {
     if (!isActive())
         return;
     const QRect rect(x, y, w, h);
-    const TextLayout layout = zeltk::layoutText(d->state.font, rect, {flags, d->state.tabStops, nullptr}, firstOf(text, length));
+    const TextLayout layout =
+        zeltk::layoutText(d->state.font, rect, {flags, d->state.tabStops, nullptr}, firstOf(text, length));
     if (boundingRect)
         *boundingRect = layout.bounding;
     if ((flags & DontPrint) || !d->hasPen() || (!(flags & DontClip) && rect.isEmpty()))
@@ -159,7 +169,8 @@ void QPainter::drawText(int x, int y, int w, int h, int flags, const QString& te
     const bool clipWasOn = d->state.clipOn;
     const QRegion before = d->state.clip;
     if (clips) {
-        const QRegion here = d->mapsRectsToRects() ? QRegion(d->mapRect(rect)) : d->state.world.mapToRegion(rect);
+        const QRegion here =
+            d->mapsRectsToRects() ? QRegion(d->mapRect(rect)) : d->state.world.mapToRegion(rect);
         setClipRegion(clipWasOn ? before & here : here);
     }
     for (const TextRun& run : layout.runs)
@@ -174,5 +185,7 @@ void QPainter::drawText(int x, int y, int w, int h, int flags, const QString& te
 
 QRect QPainter::boundingRect(int x, int y, int w, int h, int flags, const QString& text, int length)
 {
-    return zeltk::layoutText(d->state.font, QRect(x, y, w, h), {flags, d->state.tabStops, nullptr}, firstOf(text, length)).bounding;
+    return zeltk::layoutText(d->state.font, QRect(x, y, w, h), {flags, d->state.tabStops, nullptr},
+                             firstOf(text, length))
+        .bounding;
 }

@@ -70,14 +70,17 @@ QPalette paletteOf(const QColor& button, const QColor& background)
     const QBrush dark = button.dark();
     const QBrush mid = button.dark(150);
     const QColorGroup active(text, button, light, dark, mid, text, Qt::white, base, background);
-    const QColorGroup disabled(Qt::darkGray, button, light, dark, mid, Qt::darkGray, Qt::white, base, background);
+    const QColorGroup disabled(Qt::darkGray, button, light, dark, mid, Qt::darkGray, Qt::white, base,
+                               background);
     return QPalette(active, disabled, active);
 }
 
 QPalette initialPalette()
 {
-    const QColorGroup active(Qt::black, Qt::lightGray, Qt::white, Qt::darkGray, Qt::gray, Qt::black, Qt::white, Qt::white, Qt::lightGray);
-    QColorGroup disabled(Qt::darkGray, Qt::lightGray, Qt::white, Qt::darkGray, Qt::gray, Qt::darkGray, Qt::white, Qt::lightGray, Qt::lightGray);
+    const QColorGroup active(Qt::black, Qt::lightGray, Qt::white, Qt::darkGray, Qt::gray, Qt::black,
+                             Qt::white, Qt::white, Qt::lightGray);
+    QColorGroup disabled(Qt::darkGray, Qt::lightGray, Qt::white, Qt::darkGray, Qt::gray, Qt::darkGray,
+                         Qt::white, Qt::lightGray, Qt::lightGray);
     return QPalette(active, disabled, active);
 }
 
@@ -104,19 +107,18 @@ void setDefaultPalette(const QPalette& palette)
 
 } // namespace zeltk
 
-QColorGroup::QColorGroup()
+QColorGroup::QColorGroup() {}
+
+QColorGroup::QColorGroup(const QColor& foreground, const QColor& button, const QColor& light,
+                         const QColor& dark, const QColor& mid, const QColor& text, const QColor& base)
 {
+    *this = QColorGroup(QBrush(foreground), QBrush(button), QBrush(light), QBrush(dark), QBrush(mid),
+                        QBrush(text), QBrush(light), QBrush(base), QBrush(button));
 }
 
-QColorGroup::QColorGroup(const QColor& foreground, const QColor& button, const QColor& light, const QColor& dark, const QColor& mid,
-                         const QColor& text, const QColor& base)
-{
-    *this = QColorGroup(QBrush(foreground), QBrush(button), QBrush(light), QBrush(dark), QBrush(mid), QBrush(text), QBrush(light),
-                        QBrush(base), QBrush(button));
-}
-
-QColorGroup::QColorGroup(const QBrush& foreground, const QBrush& button, const QBrush& light, const QBrush& dark, const QBrush& mid,
-                         const QBrush& text, const QBrush& brightText, const QBrush& base, const QBrush& background)
+QColorGroup::QColorGroup(const QBrush& foreground, const QBrush& button, const QBrush& light,
+                         const QBrush& dark, const QBrush& mid, const QBrush& text, const QBrush& brightText,
+                         const QBrush& base, const QBrush& background)
 {
     brushes[Foreground] = foreground;
     brushes[Button] = button;
@@ -146,13 +148,9 @@ bool QColorGroup::operator==(const QColorGroup& other) const
     return std::equal(brushes, brushes + NColorRoles, other.brushes);
 }
 
-QPalette::QPalette() : d(new PaletteData{1, nextSerial(), {}})
-{
-}
+QPalette::QPalette() : d(new PaletteData{1, nextSerial(), {}}) {}
 
-QPalette::QPalette(const QColor& button) : QPalette(paletteOf(button, button))
-{
-}
+QPalette::QPalette(const QColor& button) : QPalette(paletteOf(button, button)) {}
 
 QPalette::QPalette(const QColor& button, const QColor& background) : QPalette(paletteOf(button, background))
 {

@@ -68,7 +68,8 @@ void copyPixels(const PixmapData* from, PixmapData* to)
         return;
     x11::GcKey plain;
     plain.bitmap = from->depth == 1;
-    x11::copyArea(from->id, to->id, x11::gcFor(plain), 0, 0, std::min(from->width, to->width), std::min(from->height, to->height), 0, 0);
+    x11::copyArea(from->id, to->id, x11::gcFor(plain), 0, 0, std::min(from->width, to->width),
+                  std::min(from->height, to->height), 0, 0);
 }
 
 uchar mirrored(uchar bits)
@@ -82,15 +83,14 @@ uchar mirrored(uchar bits)
 
 } // namespace
 
-QPixmap::QPixmap() : QPaintDevice(PixmapDevice), d(nullData())
-{
-}
+QPixmap::QPixmap() : QPaintDevice(PixmapDevice), d(nullData()) {}
 
 QPixmap::QPixmap(int w, int h, int depth, Optimization) : QPaintDevice(PixmapDevice), d(newData(w, h, depth))
 {
 }
 
-QPixmap::QPixmap(const QSize& size, int depth, Optimization) : QPaintDevice(PixmapDevice), d(newData(size.width(), size.height(), depth))
+QPixmap::QPixmap(const QSize& size, int depth, Optimization)
+    : QPaintDevice(PixmapDevice), d(newData(size.width(), size.height(), depth))
 {
 }
 
@@ -99,12 +99,14 @@ QPixmap::QPixmap(const QImage& image) : QPaintDevice(PixmapDevice), d(nullData()
     convertFromImage(image);
 }
 
-QPixmap::QPixmap(const QString& fileName, const char* format, ColorMode mode) : QPaintDevice(PixmapDevice), d(nullData())
+QPixmap::QPixmap(const QString& fileName, const char* format, ColorMode mode)
+    : QPaintDevice(PixmapDevice), d(nullData())
 {
     load(fileName, format, mode);
 }
 
-QPixmap::QPixmap(int w, int h, const uchar* data, bool isXbitmap) : QPaintDevice(PixmapDevice), d(newData(w, h, 1))
+QPixmap::QPixmap(int w, int h, const uchar* data, bool isXbitmap)
+    : QPaintDevice(PixmapDevice), d(newData(w, h, 1))
 {
     if (!d->id)
         return;
@@ -265,16 +267,19 @@ QImage QPixmap::convertToImage() const
     if (isNull())
         return QImage();
     QImage image(d->width, d->height, 32);
-    const std::vector<std::uint32_t> pixels = x11::readPixels(d->id, d->depth == 1, 0, 0, d->width, d->height);
+    const std::vector<std::uint32_t> pixels =
+        x11::readPixels(d->id, d->depth == 1, 0, 0, d->width, d->height);
     if (pixels.empty())
         return QImage();
     const std::vector<std::uint32_t> opaque =
-        d->mask ? x11::readPixels(d->mask->handle(), true, 0, 0, d->width, d->height) : std::vector<std::uint32_t>();
+        d->mask ? x11::readPixels(d->mask->handle(), true, 0, 0, d->width, d->height)
+                : std::vector<std::uint32_t>();
     image.setAlphaBuffer(!opaque.empty());
     for (size_t i = 0; i < pixels.size(); ++i) {
         const uint color = d->depth == 1 ? (pixels[i] ? 0xff000000 : 0xffffffff) : pixels[i];
         const bool visible = opaque.empty() || opaque[i];
-        image.setPixel(static_cast<int>(i) % d->width, static_cast<int>(i) / d->width, visible ? color : color & RGB_MASK);
+        image.setPixel(static_cast<int>(i) % d->width, static_cast<int>(i) / d->width,
+                       visible ? color : color & RGB_MASK);
     }
     return image;
 }
@@ -336,9 +341,7 @@ QPixmap QPixmap::grabWindow(WId window, int x, int y, int w, int h)
     return pixmap;
 }
 
-QBitmap::QBitmap() : QPixmap(0, 0, 1)
-{
-}
+QBitmap::QBitmap() : QPixmap(0, 0, 1) {}
 
 QBitmap::QBitmap(int w, int h, bool clear, Optimization optimization) : QPixmap(w, h, 1, optimization)
 {
@@ -352,17 +355,14 @@ QBitmap::QBitmap(const QSize& size, bool clear, Optimization optimization) : QPi
         fill(Qt::color0);
 }
 
-QBitmap::QBitmap(int w, int h, const uchar* bits, bool isXbitmap) : QPixmap(w, h, bits, isXbitmap)
+QBitmap::QBitmap(int w, int h, const uchar* bits, bool isXbitmap) : QPixmap(w, h, bits, isXbitmap) {}
+
+QBitmap::QBitmap(const QSize& size, const uchar* bits, bool isXbitmap)
+    : QPixmap(size.width(), size.height(), bits, isXbitmap)
 {
 }
 
-QBitmap::QBitmap(const QSize& size, const uchar* bits, bool isXbitmap) : QPixmap(size.width(), size.height(), bits, isXbitmap)
-{
-}
-
-QBitmap::QBitmap(const QBitmap& other) : QPixmap(other)
-{
-}
+QBitmap::QBitmap(const QBitmap& other) : QPixmap(other) {}
 
 QBitmap& QBitmap::operator=(const QBitmap& other)
 {

@@ -179,7 +179,8 @@ QRegion::QRegion(const QBitmap& bitmap) : d(emptyData())
 {
     if (bitmap.isNull())
         return;
-    const std::vector<std::uint32_t> bits = zeltk::x11::readPixels(bitmap.handle(), true, 0, 0, bitmap.width(), bitmap.height());
+    const std::vector<std::uint32_t> bits =
+        zeltk::x11::readPixels(bitmap.handle(), true, 0, 0, bitmap.width(), bitmap.height());
     zeltk::Bands bands;
     for (int y = 0; y < bitmap.height() && !bits.empty(); ++y) {
         zeltk::Spans spans;

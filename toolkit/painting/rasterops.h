@@ -14,8 +14,8 @@ namespace zeltk
 x11::Function functionOf(Qt::RasterOp op);
 
 // bitBlt with a given context; bitmaps show in its foreground and background.
-void blit(const x11::GcKey& base, Qt::HANDLE to, bool toBitmap, int dx, int dy, const QPaintDevice* src, int sx, int sy, int w, int h,
-          bool ignoreMask);
+void blit(const x11::GcKey& base, Qt::HANDLE to, bool toBitmap, int dx, int dy, const QPaintDevice* src,
+          int sx, int sy, int w, int h, bool ignoreMask);
 
 } // namespace zeltk
 

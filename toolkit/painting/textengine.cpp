@@ -54,7 +54,8 @@ class LineMaker
 {
 public:
     LineMaker(const QFont& font, const TextFormat& f, int available)
-        : face(faceOf(font)), format(f), room(available), tabWidth(f.tabStops > 0 ? f.tabStops : 8 * x11::glyphBox(face, u'x').advance)
+        : face(faceOf(font)), format(f), room(available),
+          tabWidth(f.tabStops > 0 ? f.tabStops : 8 * x11::glyphBox(face, u'x').advance)
     {
     }
 
@@ -173,7 +174,8 @@ TextLayout layoutText(const QFont& font, const QRect& rect, const TextFormat& fo
     const int leftRoom = std::max(0, -metrics.minLeftBearing());
     const int rightRoom = std::max(0, -metrics.minRightBearing());
     const int rooms = leftRoom + rightRoom;
-    const std::vector<Line> lines = LineMaker(font, format, rect.width() - rooms).run(lettersOf(toUtf16(text), format.flags));
+    const std::vector<Line> lines =
+        LineMaker(font, format, rect.width() - rooms).run(lettersOf(toUtf16(text), format.flags));
 
     const int height = static_cast<int>(lines.size()) * metrics.lineSpacing() - metrics.leading();
     int y = rect.y();

@@ -33,7 +33,7 @@ struct TextLayout {
 };
 
 struct TextFormat {
-    int flags; // Qt::AlignmentFlags and Qt::TextFlags
+    int flags;           // Qt::AlignmentFlags and Qt::TextFlags
     int tabStops;        // distance in pixels; 0: eight times the width of an x
     const int* tabArray; // places of tabs in pixels, ended by 0; may be null
 };

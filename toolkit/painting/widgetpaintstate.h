@@ -25,8 +25,10 @@ struct WidgetPaintState {
     bool wholeWidget;   // the region is all of the widget, so that clipping is not needed
 };
 
-// Fills in the state of a widget, which is given as the one or the other; the kernel sets this, it is null before.
-typedef void (*WidgetPaintStateFunction)(const QPaintDevice* device, const QWidget* widget, WidgetPaintState* state);
+// Fills in the state of a widget, which is given as the one or the other; the kernel sets this, it is null
+// before.
+typedef void (*WidgetPaintStateFunction)(const QPaintDevice* device, const QWidget* widget,
+                                         WidgetPaintState* state);
 extern WidgetPaintStateFunction widgetPaintState;
 
 } // namespace zeltk

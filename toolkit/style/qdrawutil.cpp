@@ -25,8 +25,8 @@ private:
     QBrush brush;
 };
 
-// One ring of a bevel: its left and upper sides, its right and lower sides. The corners on the diagonal belong to the
-// right and lower ones.
+// One ring of a bevel: its left and upper sides, its right and lower sides. The corners on the diagonal
+// belong to the right and lower ones.
 void drawRing(QPainter* p, const QRect& r, const QColor& upperLeft, const QColor& lowerRight)
 {
     p->setPen(upperLeft);
@@ -50,8 +50,8 @@ void fillInside(QPainter* p, const QRect& r, const QBrush* fill)
 }
 
 // Windows bevels: two rings, each with its own two colours.
-void drawWinShades(QPainter* p, const QRect& r, const QColor& outerLight, const QColor& outerDark, const QColor& innerLight,
-                   const QColor& innerDark, const QBrush* fill)
+void drawWinShades(QPainter* p, const QRect& r, const QColor& outerLight, const QColor& outerDark,
+                   const QColor& innerLight, const QColor& innerDark, const QBrush* fill)
 {
     if (r.width() < 2 || r.height() < 2)
         return;
@@ -65,7 +65,8 @@ void drawWinShades(QPainter* p, const QRect& r, const QColor& outerLight, const 
 } // namespace
 
 // A thin box with rings of light and shade; what the rings leave is the middle.
-void qDrawShadeLine(QPainter* p, int x1, int y1, int x2, int y2, const QColorGroup& g, bool sunken, int lineWidth, int midLineWidth)
+void qDrawShadeLine(QPainter* p, int x1, int y1, int x2, int y2, const QColorGroup& g, bool sunken,
+                    int lineWidth, int midLineWidth)
 {
     if (!p || lineWidth < 0 || midLineWidth < 0 || (x1 != x2 && y1 != y2))
         return;
@@ -81,14 +82,15 @@ void qDrawShadeLine(QPainter* p, int x1, int y1, int x2, int y2, const QColorGro
         drawRing(p, inside(box, i), sunken ? g.dark() : g.light(), sunken ? g.light() : g.dark());
 }
 
-void qDrawShadeLine(QPainter* p, const QPoint& p1, const QPoint& p2, const QColorGroup& g, bool sunken, int lineWidth, int midLineWidth)
+void qDrawShadeLine(QPainter* p, const QPoint& p1, const QPoint& p2, const QColorGroup& g, bool sunken,
+                    int lineWidth, int midLineWidth)
 {
     qDrawShadeLine(p, p1.x(), p1.y(), p2.x(), p2.y(), g, sunken, lineWidth, midLineWidth);
 }
 
 // From the outside: a bevel, the middle, and the bevel turned inside out.
-void qDrawShadeRect(QPainter* p, int x, int y, int w, int h, const QColorGroup& g, bool sunken, int lineWidth, int midLineWidth,
-                    const QBrush* fill)
+void qDrawShadeRect(QPainter* p, int x, int y, int w, int h, const QColorGroup& g, bool sunken, int lineWidth,
+                    int midLineWidth, const QBrush* fill)
 {
     if (!p || w < 1 || h < 1 || lineWidth < 0 || midLineWidth < 0)
         return;
@@ -105,12 +107,14 @@ void qDrawShadeRect(QPainter* p, int x, int y, int w, int h, const QColorGroup& 
     fillInside(p, inside(all, 2 * lineWidth + midLineWidth), fill);
 }
 
-void qDrawShadeRect(QPainter* p, const QRect& r, const QColorGroup& g, bool sunken, int lineWidth, int midLineWidth, const QBrush* fill)
+void qDrawShadeRect(QPainter* p, const QRect& r, const QColorGroup& g, bool sunken, int lineWidth,
+                    int midLineWidth, const QBrush* fill)
 {
     qDrawShadeRect(p, r.x(), r.y(), r.width(), r.height(), g, sunken, lineWidth, midLineWidth, fill);
 }
 
-void qDrawShadePanel(QPainter* p, int x, int y, int w, int h, const QColorGroup& g, bool sunken, int lineWidth, const QBrush* fill)
+void qDrawShadePanel(QPainter* p, int x, int y, int w, int h, const QColorGroup& g, bool sunken,
+                     int lineWidth, const QBrush* fill)
 {
     if (!p || w < 1 || h < 1 || lineWidth < 0)
         return;
@@ -127,12 +131,14 @@ void qDrawShadePanel(QPainter* p, int x, int y, int w, int h, const QColorGroup&
     fillInside(p, inside(all, lineWidth), fill);
 }
 
-void qDrawShadePanel(QPainter* p, const QRect& r, const QColorGroup& g, bool sunken, int lineWidth, const QBrush* fill)
+void qDrawShadePanel(QPainter* p, const QRect& r, const QColorGroup& g, bool sunken, int lineWidth,
+                     const QBrush* fill)
 {
     qDrawShadePanel(p, r.x(), r.y(), r.width(), r.height(), g, sunken, lineWidth, fill);
 }
 
-void qDrawWinButton(QPainter* p, int x, int y, int w, int h, const QColorGroup& g, bool sunken, const QBrush* fill)
+void qDrawWinButton(QPainter* p, int x, int y, int w, int h, const QColorGroup& g, bool sunken,
+                    const QBrush* fill)
 {
     if (!p)
         return;
@@ -148,7 +154,8 @@ void qDrawWinButton(QPainter* p, const QRect& r, const QColorGroup& g, bool sunk
     qDrawWinButton(p, r.x(), r.y(), r.width(), r.height(), g, sunken, fill);
 }
 
-void qDrawWinPanel(QPainter* p, int x, int y, int w, int h, const QColorGroup& g, bool sunken, const QBrush* fill)
+void qDrawWinPanel(QPainter* p, int x, int y, int w, int h, const QColorGroup& g, bool sunken,
+                   const QBrush* fill)
 {
     if (!p)
         return;
@@ -164,7 +171,8 @@ void qDrawWinPanel(QPainter* p, const QRect& r, const QColorGroup& g, bool sunke
     qDrawWinPanel(p, r.x(), r.y(), r.width(), r.height(), g, sunken, fill);
 }
 
-void qDrawPlainRect(QPainter* p, int x, int y, int w, int h, const QColor& color, int lineWidth, const QBrush* fill)
+void qDrawPlainRect(QPainter* p, int x, int y, int w, int h, const QColor& color, int lineWidth,
+                    const QBrush* fill)
 {
     if (!p || w < 1 || h < 1 || lineWidth < 0)
         return;

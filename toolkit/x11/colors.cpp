@@ -49,7 +49,8 @@ const Visual& visual()
 
 unsigned long toPixel(unsigned value, const Part& part)
 {
-    const unsigned long scaled = part.bits >= 8 ? static_cast<unsigned long>(value) << (part.bits - 8) : value >> (8 - part.bits);
+    const unsigned long scaled =
+        part.bits >= 8 ? static_cast<unsigned long>(value) << (part.bits - 8) : value >> (8 - part.bits);
     return scaled << part.shift;
 }
 
@@ -72,7 +73,8 @@ unsigned long pixelOf(std::uint32_t rgb)
 
 std::uint32_t colorOf(unsigned long pixel)
 {
-    return fromPixel(pixel, visual().red) << 16 | fromPixel(pixel, visual().green) << 8 | fromPixel(pixel, visual().blue);
+    return fromPixel(pixel, visual().red) << 16 | fromPixel(pixel, visual().green) << 8 |
+           fromPixel(pixel, visual().blue);
 }
 
 bool lookupColor(const std::string& name, std::uint32_t* rgb)

@@ -7,8 +7,10 @@
 
 struct _XDisplay;
 
-namespace zeltk {
-namespace x11 {
+namespace zeltk
+{
+namespace x11
+{
 
 // A window, pixmap or any other server resource, as Qt::HANDLE shows it.
 typedef unsigned long XId;

@@ -10,7 +10,8 @@ namespace zeltk
 namespace x11
 {
 
-static_assert(sizeof(Point) == sizeof(XPoint) && sizeof(Segment) == sizeof(XSegment), "passed on as they are");
+static_assert(sizeof(Point) == sizeof(XPoint) && sizeof(Segment) == sizeof(XSegment),
+              "passed on as they are");
 
 void drawLine(XId drawable, const GcSlot* gc, int x1, int y1, int x2, int y2)
 {
@@ -19,58 +20,66 @@ void drawLine(XId drawable, const GcSlot* gc, int x1, int y1, int x2, int y2)
 
 void drawPoints(XId drawable, const GcSlot* gc, const std::vector<Point>& points)
 {
-    XDrawPoints(display(), drawable, gc->gc, reinterpret_cast<XPoint*>(const_cast<Point*>(points.data())), static_cast<int>(points.size()),
-                CoordModeOrigin);
+    XDrawPoints(display(), drawable, gc->gc, reinterpret_cast<XPoint*>(const_cast<Point*>(points.data())),
+                static_cast<int>(points.size()), CoordModeOrigin);
 }
 
 void drawPolyline(XId drawable, const GcSlot* gc, const std::vector<Point>& points)
 {
-    XDrawLines(display(), drawable, gc->gc, reinterpret_cast<XPoint*>(const_cast<Point*>(points.data())), static_cast<int>(points.size()),
-               CoordModeOrigin);
+    XDrawLines(display(), drawable, gc->gc, reinterpret_cast<XPoint*>(const_cast<Point*>(points.data())),
+               static_cast<int>(points.size()), CoordModeOrigin);
 }
 
 void drawSegments(XId drawable, const GcSlot* gc, const std::vector<Segment>& segments)
 {
-    XDrawSegments(display(), drawable, gc->gc, reinterpret_cast<XSegment*>(const_cast<Segment*>(segments.data())),
+    XDrawSegments(display(), drawable, gc->gc,
+                  reinterpret_cast<XSegment*>(const_cast<Segment*>(segments.data())),
                   static_cast<int>(segments.size()));
 }
 
 void drawRectangle(XId drawable, const GcSlot* gc, int x, int y, int width, int height)
 {
-    XDrawRectangle(display(), drawable, gc->gc, x, y, static_cast<unsigned>(width), static_cast<unsigned>(height));
+    XDrawRectangle(display(), drawable, gc->gc, x, y, static_cast<unsigned>(width),
+                   static_cast<unsigned>(height));
 }
 
 void fillRectangle(XId drawable, const GcSlot* gc, int x, int y, int width, int height)
 {
-    XFillRectangle(display(), drawable, gc->gc, x, y, static_cast<unsigned>(width), static_cast<unsigned>(height));
+    XFillRectangle(display(), drawable, gc->gc, x, y, static_cast<unsigned>(width),
+                   static_cast<unsigned>(height));
 }
 
 void fillPolygon(XId drawable, const GcSlot* gc, const std::vector<Point>& points, bool winding)
 {
     XSetFillRule(display(), gc->gc, winding ? WindingRule : EvenOddRule);
-    XFillPolygon(display(), drawable, gc->gc, reinterpret_cast<XPoint*>(const_cast<Point*>(points.data())), static_cast<int>(points.size()),
-                 Complex, CoordModeOrigin);
+    XFillPolygon(display(), drawable, gc->gc, reinterpret_cast<XPoint*>(const_cast<Point*>(points.data())),
+                 static_cast<int>(points.size()), Complex, CoordModeOrigin);
 }
 
 void drawArc(XId drawable, const GcSlot* gc, int x, int y, int width, int height, int start, int length)
 {
-    XDrawArc(display(), drawable, gc->gc, x, y, static_cast<unsigned>(width), static_cast<unsigned>(height), start, length);
+    XDrawArc(display(), drawable, gc->gc, x, y, static_cast<unsigned>(width), static_cast<unsigned>(height),
+             start, length);
 }
 
-void fillArc(XId drawable, const GcSlot* gc, int x, int y, int width, int height, int start, int length, bool chord)
+void fillArc(XId drawable, const GcSlot* gc, int x, int y, int width, int height, int start, int length,
+             bool chord)
 {
     XSetArcMode(display(), gc->gc, chord ? ArcChord : ArcPieSlice);
-    XFillArc(display(), drawable, gc->gc, x, y, static_cast<unsigned>(width), static_cast<unsigned>(height), start, length);
+    XFillArc(display(), drawable, gc->gc, x, y, static_cast<unsigned>(width), static_cast<unsigned>(height),
+             start, length);
 }
 
 void copyArea(XId from, XId to, const GcSlot* gc, int sx, int sy, int width, int height, int dx, int dy)
 {
-    XCopyArea(display(), from, to, gc->gc, sx, sy, static_cast<unsigned>(width), static_cast<unsigned>(height), dx, dy);
+    XCopyArea(display(), from, to, gc->gc, sx, sy, static_cast<unsigned>(width),
+              static_cast<unsigned>(height), dx, dy);
 }
 
 void copyBitmap(XId from, XId to, const GcSlot* gc, int sx, int sy, int width, int height, int dx, int dy)
 {
-    XCopyPlane(display(), from, to, gc->gc, sx, sy, static_cast<unsigned>(width), static_cast<unsigned>(height), dx, dy, 1);
+    XCopyPlane(display(), from, to, gc->gc, sx, sy, static_cast<unsigned>(width),
+               static_cast<unsigned>(height), dx, dy, 1);
 }
 
 } // namespace x11

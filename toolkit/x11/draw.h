@@ -28,9 +28,11 @@ void drawSegments(XId drawable, const GcSlot* gc, const std::vector<Segment>& se
 void drawRectangle(XId drawable, const GcSlot* gc, int x, int y, int width, int height);
 void fillRectangle(XId drawable, const GcSlot* gc, int x, int y, int width, int height);
 void fillPolygon(XId drawable, const GcSlot* gc, const std::vector<Point>& points, bool winding);
-// Angles in 64ths of a degree. A chord's fill is bounded by a line between the ends, a pie's by lines to the centre.
+// Angles in 64ths of a degree. A chord's fill is bounded by a line between the ends, a pie's by lines to the
+// centre.
 void drawArc(XId drawable, const GcSlot* gc, int x, int y, int width, int height, int start, int length);
-void fillArc(XId drawable, const GcSlot* gc, int x, int y, int width, int height, int start, int length, bool chord);
+void fillArc(XId drawable, const GcSlot* gc, int x, int y, int width, int height, int start, int length,
+             bool chord);
 void copyArea(XId from, XId to, const GcSlot* gc, int sx, int sy, int width, int height, int dx, int dy);
 // Copies a bitmap: its pixels in the context's foreground and background.
 void copyBitmap(XId from, XId to, const GcSlot* gc, int sx, int sy, int width, int height, int dx, int dy);

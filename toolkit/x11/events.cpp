@@ -3,8 +3,6 @@
 
 #include "x11/xlib.h"
 
-#include <X11/XKBlib.h>
-
 namespace zeltk
 {
 namespace x11
@@ -29,7 +27,8 @@ bool isRepeat(const XKeyEvent& key)
         return false;
     XEvent next;
     XPeekEvent(display(), &next);
-    return next.type == XKeyPress && next.xkey.keycode == key.keycode && next.xkey.window == key.window && next.xkey.time - key.time < 2;
+    return next.type == XKeyPress && next.xkey.keycode == key.keycode && next.xkey.window == key.window &&
+           next.xkey.time - key.time < 2;
 }
 
 std::string utf8FromLatin1(const char* text, int length)
@@ -94,21 +93,22 @@ void readMotion(const XMotionEvent& motion, Event* event)
 
 void readCrossing(const XCrossingEvent& crossing, Event* event)
 {
-    event->type = crossing.type == EnterNotify ? Event::EnterWindow : Event::LeaveWindow;
     noteTime(crossing.time, event);
+    if (crossing.detail == NotifyVirtual || crossing.detail == NotifyNonlinearVirtual)
+        return; // the pointer passes through to a window further inside or outside
+    event->type = crossing.type == EnterNotify ? Event::EnterWindow : Event::LeaveWindow;
     event->x = crossing.x;
     event->y = crossing.y;
     event->rootX = crossing.x_root;
     event->rootY = crossing.y_root;
     event->state = crossing.state;
-    event->byGrab = crossing.mode != NotifyNormal;
-    event->inferior = crossing.detail == NotifyInferior;
+    event->byGrab = crossing.mode == NotifyGrab;
 }
 
 void readFocus(const XFocusChangeEvent& focus, Event* event)
 {
-    if (focus.detail == NotifyPointer || focus.detail == NotifyPointerRoot || focus.detail == NotifyDetailNone ||
-        focus.detail == NotifyInferior)
+    if (focus.detail == NotifyPointer || focus.detail == NotifyPointerRoot ||
+        focus.detail == NotifyDetailNone || focus.detail == NotifyInferior)
         return;
     event->type = focus.type == XFocusIn ? Event::FocusGained : Event::FocusLost;
     event->byGrab = focus.mode == NotifyGrab || focus.mode == NotifyUngrab;
@@ -220,7 +220,8 @@ void compressMotion(Event* event)
     while (XEventsQueued(display(), QueuedAlready) > 0) {
         XEvent next;
         XPeekEvent(display(), &next);
-        if (next.type != MotionNotify || next.xmotion.window != event->window || next.xmotion.state != event->state)
+        if (next.type != MotionNotify || next.xmotion.window != event->window ||
+            next.xmotion.state != event->state)
             return;
         XNextEvent(display(), &next);
         readMotion(next.xmotion, event);

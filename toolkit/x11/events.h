@@ -40,12 +40,11 @@ struct Event {
     int rootY = 0;
     int width = 0;
     int height = 0;
-    unsigned state = 0;  // modifiers and buttons before the event, bits of the X server
-    unsigned button = 0; // its number
-    int count = 0;       // Exposed: how many follow for the window
-    bool byGrab = false; // crossings and focus changes that a grab caused
-    bool inferior = false;   // crossings between a window and the ones inside it
-    bool synthetic = false;  // sent by a client, such as the window manager
+    unsigned state = 0;     // modifiers and buttons before the event, bits of the X server
+    unsigned button = 0;    // its number
+    int count = 0;          // Exposed: how many follow for the window
+    bool byGrab = false;    // crossings and focus changes that a grab caused
+    bool synthetic = false; // sent by a client, such as the window manager
     unsigned long keysym = 0;
     std::string text; // UTF-8
     bool autoRepeat = false;

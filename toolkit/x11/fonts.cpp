@@ -86,7 +86,8 @@ XftDraw* drawOn(XId drawable, bool bitmap)
     if (t.draw)
         XftDrawDestroy(t.draw);
     t.draw = bitmap ? XftDrawCreateBitmap(display(), drawable)
-                    : XftDrawCreate(display(), drawable, DefaultVisual(display(), screen()), DefaultColormap(display(), screen()));
+                    : XftDrawCreate(display(), drawable, DefaultVisual(display(), screen()),
+                                    DefaultColormap(display(), screen()));
     t.drawable = drawable;
     t.bitmap = bitmap;
     return t.draw;
@@ -111,12 +112,14 @@ void setClip(XftDraw* draw, const std::vector<ClipRect>* clip)
     }
     std::vector<XRectangle> rects;
     for (const ClipRect& r : *clip)
-        rects.push_back({static_cast<short>(r.x), static_cast<short>(r.y), static_cast<unsigned short>(r.width), static_cast<unsigned short>(r.height)});
+        rects.push_back({static_cast<short>(r.x), static_cast<short>(r.y),
+                         static_cast<unsigned short>(r.width), static_cast<unsigned short>(r.height)});
     XftDrawSetClipRectangles(draw, 0, 0, rects.data(), static_cast<int>(rects.size()));
 }
 
 // Each character stands where the widths of those before it, whole pixels all, put it.
-void drawGlyphs(XftDraw* draw, const Font* font, const XftColor& color, int x, int y, const char16_t* text, size_t length)
+void drawGlyphs(XftDraw* draw, const Font* font, const XftColor& color, int x, int y, const char16_t* text,
+                size_t length)
 {
     std::vector<XftGlyphSpec> glyphs;
     for (size_t i = 0; i < length; ++i) {
@@ -129,7 +132,8 @@ void drawGlyphs(XftDraw* draw, const Font* font, const XftColor& color, int x, i
             XftDrawRect(draw, &color, x + box.x, y + box.y, 1, height);
             XftDrawRect(draw, &color, x + box.x + box.width - 1, y + box.y, 1, height);
         } else {
-            glyphs.push_back({XftCharIndex(display(), font->face, text[i]), static_cast<short>(x), static_cast<short>(y)});
+            glyphs.push_back(
+                {XftCharIndex(display(), font->face, text[i]), static_cast<short>(x), static_cast<short>(y)});
         }
         x += box.advance;
     }
@@ -142,7 +146,8 @@ void drawGlyphs(XftDraw* draw, const Font* font, const XftColor& color, int x, i
 const Font* openFont(const FontRequest& request)
 {
     static std::map<Key, std::unique_ptr<Font>> fonts;
-    const Key key(request.families, request.pixelSize, fontconfigWeight(request.weight), request.italic, request.antialias);
+    const Key key(request.families, request.pixelSize, fontconfigWeight(request.weight), request.italic,
+                  request.antialias);
     std::unique_ptr<Font>& font = fonts[key];
     if (font)
         return font.get();
@@ -190,13 +195,15 @@ std::string familyOf(const Font* font)
 bool isBold(const Font* font)
 {
     int weight = 0;
-    return font && FcPatternGetInteger(font->face->pattern, FC_WEIGHT, 0, &weight) == FcResultMatch && weight >= FC_WEIGHT_DEMIBOLD;
+    return font && FcPatternGetInteger(font->face->pattern, FC_WEIGHT, 0, &weight) == FcResultMatch &&
+           weight >= FC_WEIGHT_DEMIBOLD;
 }
 
 bool isFixed(const Font* font)
 {
     int spacing = FC_PROPORTIONAL;
-    return font && FcPatternGetInteger(font->face->pattern, FC_SPACING, 0, &spacing) == FcResultMatch && spacing >= FC_MONO;
+    return font && FcPatternGetInteger(font->face->pattern, FC_SPACING, 0, &spacing) == FcResultMatch &&
+           spacing >= FC_MONO;
 }
 
 bool hasGlyph(const Font* font, char16_t c)
@@ -230,8 +237,8 @@ int textWidth(const Font* font, const char16_t* text, size_t length)
     return width;
 }
 
-void drawText(XId drawable, bool bitmap, const Font* font, int x, int y, const char16_t* text, size_t length, std::uint32_t color,
-              const std::vector<ClipRect>* clip)
+void drawText(XId drawable, bool bitmap, const Font* font, int x, int y, const char16_t* text, size_t length,
+              std::uint32_t color, const std::vector<ClipRect>* clip)
 {
     if (!font)
         return;

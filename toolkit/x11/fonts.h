@@ -56,8 +56,8 @@ bool hasGlyph(const Font* font, char16_t c);
 GlyphBox glyphBox(const Font* font, char16_t c);
 int textWidth(const Font* font, const char16_t* text, size_t length);
 
-// Draws with the pen at (x, y) in the colour 0xRRGGBB. `bitmap`: the drawable has depth 1, and the colour is 0 or 1.
-// A null clip means all of the drawable.
+// Draws with the pen at (x, y) in the colour 0xRRGGBB. `bitmap`: the drawable has depth 1, and the colour is
+// 0 or 1. A null clip means all of the drawable.
 void drawText(XId drawable, bool bitmap, const Font* font, int x, int y, const char16_t* text, size_t length,
               std::uint32_t color, const std::vector<ClipRect>* clip);
 // A new bitmap of that size with the pixels that the text covers by half or more; the caller frees it.

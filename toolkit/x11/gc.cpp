@@ -12,8 +12,9 @@ namespace
 {
 
 constexpr size_t storeSize = 24;
-constexpr unsigned long fields = GCFunction | GCForeground | GCBackground | GCLineWidth | GCLineStyle | GCCapStyle | GCJoinStyle |
-                                 GCFillStyle | GCTileStipXOrigin | GCTileStipYOrigin | GCSubwindowMode | GCGraphicsExposures;
+constexpr unsigned long fields = GCFunction | GCForeground | GCBackground | GCLineWidth | GCLineStyle |
+                                 GCCapStyle | GCJoinStyle | GCFillStyle | GCTileStipXOrigin |
+                                 GCTileStipYOrigin | GCSubwindowMode | GCGraphicsExposures;
 
 // Contexts belong to a depth; these two drawables are made only to name it.
 XId exampleDrawable(bool bitmap)
@@ -57,8 +58,10 @@ void set(GcSlot* slot, const GcKey& key)
     if (key.clip) {
         std::vector<XRectangle> rects;
         for (const ClipRect& r : *key.clip)
-            rects.push_back({static_cast<short>(r.x), static_cast<short>(r.y), static_cast<unsigned short>(r.width), static_cast<unsigned short>(r.height)});
-        XSetClipRectangles(display(), slot->gc, 0, 0, rects.data(), static_cast<int>(rects.size()), XUnsorted);
+            rects.push_back({static_cast<short>(r.x), static_cast<short>(r.y),
+                             static_cast<unsigned short>(r.width), static_cast<unsigned short>(r.height)});
+        XSetClipRectangles(display(), slot->gc, 0, 0, rects.data(), static_cast<int>(rects.size()),
+                           XUnsorted);
     } else if (wasClipped) {
         XSetClipMask(display(), slot->gc, XNone);
     }
@@ -80,9 +83,10 @@ std::vector<GcSlot>& store()
 
 bool GcKey::operator==(const GcKey& other) const
 {
-    return foreground == other.foreground && clip == other.clip && background == other.background && function == other.function &&
-           lineWidth == other.lineWidth && lineStyle == other.lineStyle && cap == other.cap && join == other.join && fill == other.fill &&
-           pattern == other.pattern && originX == other.originX && originY == other.originY && overChildren == other.overChildren &&
+    return foreground == other.foreground && clip == other.clip && background == other.background &&
+           function == other.function && lineWidth == other.lineWidth && lineStyle == other.lineStyle &&
+           cap == other.cap && join == other.join && fill == other.fill && pattern == other.pattern &&
+           originX == other.originX && originY == other.originY && overChildren == other.overChildren &&
            bitmap == other.bitmap && dashes == other.dashes;
 }
 

@@ -13,7 +13,8 @@ namespace x11
 namespace
 {
 
-constexpr unsigned pointerEvents = ButtonPressMask | ButtonReleaseMask | PointerMotionMask | EnterWindowMask | LeaveWindowMask;
+constexpr unsigned pointerEvents =
+    ButtonPressMask | ButtonReleaseMask | PointerMotionMask | EnterWindowMask | LeaveWindowMask;
 
 } // namespace
 
@@ -24,8 +25,8 @@ void setInputFocus(XId window)
 
 bool grabPointer(XId window, XId cursor, bool popup, unsigned long time)
 {
-    return XGrabPointer(display(), window, popup ? True : False, pointerEvents, GrabModeAsync, GrabModeAsync, XNone, cursor, time) ==
-           GrabSuccess;
+    return XGrabPointer(display(), window, popup ? True : False, pointerEvents, GrabModeAsync, GrabModeAsync,
+                        XNone, cursor, time) == GrabSuccess;
 }
 
 void ungrabPointer(unsigned long time)
@@ -91,7 +92,8 @@ XId bitmapCursor(XId bitmap, XId mask, int hotX, int hotY)
 {
     XColor black = {0, 0, 0, 0, 0, 0};
     XColor white = {0, 0xffff, 0xffff, 0xffff, 0, 0};
-    return XCreatePixmapCursor(display(), bitmap, mask, &black, &white, static_cast<unsigned>(hotX), static_cast<unsigned>(hotY));
+    return XCreatePixmapCursor(display(), bitmap, mask, &black, &white, static_cast<unsigned>(hotX),
+                               static_cast<unsigned>(hotY));
 }
 
 void freeCursor(XId cursor)

@@ -15,7 +15,8 @@ namespace x11
 
 XId createPixmap(int width, int height, int depth)
 {
-    return XCreatePixmap(display(), rootWindow(), static_cast<unsigned>(width), static_cast<unsigned>(height), static_cast<unsigned>(depth));
+    return XCreatePixmap(display(), rootWindow(), static_cast<unsigned>(width), static_cast<unsigned>(height),
+                         static_cast<unsigned>(depth));
 }
 
 void freePixmap(XId pixmap)
@@ -29,14 +30,15 @@ void freePixmap(XId pixmap)
 
 XId createBitmap(const unsigned char* bits, int width, int height)
 {
-    return XCreateBitmapFromData(display(), rootWindow(), reinterpret_cast<const char*>(bits), static_cast<unsigned>(width),
-                                 static_cast<unsigned>(height));
+    return XCreateBitmapFromData(display(), rootWindow(), reinterpret_cast<const char*>(bits),
+                                 static_cast<unsigned>(width), static_cast<unsigned>(height));
 }
 
 std::vector<std::uint32_t> readPixels(XId drawable, bool bitmap, int x, int y, int width, int height)
 {
     std::vector<std::uint32_t> pixels;
-    XImage* image = XGetImage(display(), drawable, x, y, static_cast<unsigned>(width), static_cast<unsigned>(height), AllPlanes, ZPixmap);
+    XImage* image = XGetImage(display(), drawable, x, y, static_cast<unsigned>(width),
+                              static_cast<unsigned>(height), AllPlanes, ZPixmap);
     if (!image)
         return pixels;
     pixels.reserve(static_cast<size_t>(width) * static_cast<size_t>(height));
@@ -52,17 +54,20 @@ std::vector<std::uint32_t> readPixels(XId drawable, bool bitmap, int x, int y, i
 void writePixels(XId drawable, bool bitmap, const std::uint32_t* pixels, int width, int height)
 {
     const int bits = bitmap ? 1 : depth();
-    XImage* image = XCreateImage(display(), DefaultVisual(display(), screen()), static_cast<unsigned>(bits), ZPixmap, 0, nullptr,
-                                 static_cast<unsigned>(width), static_cast<unsigned>(height), 32, 0);
+    XImage* image =
+        XCreateImage(display(), DefaultVisual(display(), screen()), static_cast<unsigned>(bits), ZPixmap, 0,
+                     nullptr, static_cast<unsigned>(width), static_cast<unsigned>(height), 32, 0);
     if (!image)
         return;
-    image->data = static_cast<char*>(std::calloc(static_cast<size_t>(image->bytes_per_line), static_cast<size_t>(height)));
+    image->data = static_cast<char*>(
+        std::calloc(static_cast<size_t>(image->bytes_per_line), static_cast<size_t>(height)));
     for (int row = 0; row < height; ++row)
         for (int column = 0; column < width; ++column, ++pixels)
             XPutPixel(image, column, row, bitmap ? *pixels & 1 : pixelOf(*pixels & 0xffffff));
     GcKey plain;
     plain.bitmap = bitmap;
-    XPutImage(display(), drawable, gcFor(plain)->gc, image, 0, 0, 0, 0, static_cast<unsigned>(width), static_cast<unsigned>(height));
+    XPutImage(display(), drawable, gcFor(plain)->gc, image, 0, 0, 0, 0, static_cast<unsigned>(width),
+              static_cast<unsigned>(height));
     XDestroyImage(image);
 }
 

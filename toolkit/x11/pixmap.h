@@ -17,7 +17,8 @@ void freePixmap(XId pixmap);
 // Rows of whole bytes, the lowest bit leftmost.
 XId createBitmap(const unsigned char* bits, int width, int height);
 
-// Pixels as 0xffRRGGBB, row by row; of a bitmap as 0 and 1. Empty when they cannot be read. Waits for the server.
+// Pixels as 0xffRRGGBB, row by row; of a bitmap as 0 and 1. Empty when they cannot be read. Waits for the
+// server.
 std::vector<std::uint32_t> readPixels(XId drawable, bool bitmap, int x, int y, int width, int height);
 // Writes such pixels.
 void writePixels(XId drawable, bool bitmap, const std::uint32_t* pixels, int width, int height);

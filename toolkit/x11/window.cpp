@@ -5,8 +5,6 @@
 #include "x11/gc.h"
 #include "x11/xlib.h"
 
-#include <X11/extensions/shape.h>
-
 namespace zeltk
 {
 namespace x11
@@ -15,8 +13,9 @@ namespace x11
 namespace
 {
 
-constexpr long commonEvents = KeyPressMask | KeyReleaseMask | ButtonPressMask | ButtonReleaseMask | PointerMotionMask | EnterWindowMask |
-                              LeaveWindowMask | ExposureMask | KeymapStateMask;
+constexpr long commonEvents = KeyPressMask | KeyReleaseMask | ButtonPressMask | ButtonReleaseMask |
+                              PointerMotionMask | EnterWindowMask | LeaveWindowMask | ExposureMask |
+                              KeymapStateMask;
 constexpr long topLevelEvents = StructureNotifyMask | FocusChangeMask | PropertyChangeMask;
 
 } // namespace
@@ -30,9 +29,10 @@ XId createWindow(XId parent, int x, int y, int width, int height, bool topLevel,
     attributes.border_pixel = 0;
     attributes.bit_gravity = ForgetGravity;
     attributes.background_pixmap = XNone;
-    const unsigned long mask = CWEventMask | CWOverrideRedirect | CWSaveUnder | CWBorderPixel | CWBitGravity | CWBackPixmap;
-    return XCreateWindow(display(), parent, x, y, static_cast<unsigned>(width), static_cast<unsigned>(height), 0, CopyFromParent, InputOutput,
-                         CopyFromParent, mask, &attributes);
+    const unsigned long mask =
+        CWEventMask | CWOverrideRedirect | CWSaveUnder | CWBorderPixel | CWBitGravity | CWBackPixmap;
+    return XCreateWindow(display(), parent, x, y, static_cast<unsigned>(width), static_cast<unsigned>(height),
+                         0, CopyFromParent, InputOutput, CopyFromParent, mask, &attributes);
 }
 
 void destroyWindow(XId window)
@@ -134,7 +134,8 @@ void scrollWindow(XId window, int sx, int sy, int width, int height, int dx, int
         values.graphics_exposures = True;
         return XCreateGC(display(), rootWindow(), GCGraphicsExposures, &values);
     }();
-    XCopyArea(display(), window, window, gc, sx, sy, static_cast<unsigned>(width), static_cast<unsigned>(height), dx, dy);
+    XCopyArea(display(), window, window, gc, sx, sy, static_cast<unsigned>(width),
+              static_cast<unsigned>(height), dx, dy);
 }
 
 void setShape(XId window, const std::vector<ClipRect>* shape)
@@ -145,8 +146,10 @@ void setShape(XId window, const std::vector<ClipRect>* shape)
     }
     std::vector<XRectangle> rects;
     for (const ClipRect& r : *shape)
-        rects.push_back({static_cast<short>(r.x), static_cast<short>(r.y), static_cast<unsigned short>(r.width), static_cast<unsigned short>(r.height)});
-    XShapeCombineRectangles(display(), window, ShapeBounding, 0, 0, rects.data(), static_cast<int>(rects.size()), ShapeSet, XUnsorted);
+        rects.push_back({static_cast<short>(r.x), static_cast<short>(r.y),
+                         static_cast<unsigned short>(r.width), static_cast<unsigned short>(r.height)});
+    XShapeCombineRectangles(display(), window, ShapeBounding, 0, 0, rects.data(),
+                            static_cast<int>(rects.size()), ShapeSet, XUnsorted);
 }
 
 bool rootPosition(XId window, int* x, int* y)

@@ -16,13 +16,14 @@ namespace
 
 void setText(XId window, const char* property, const char* type, const std::string& text)
 {
-    XChangeProperty(display(), window, atom(property), atom(type), 8, PropModeReplace, reinterpret_cast<const unsigned char*>(text.data()),
-                    static_cast<int>(text.size()));
+    XChangeProperty(display(), window, atom(property), atom(type), 8, PropModeReplace,
+                    reinterpret_cast<const unsigned char*>(text.data()), static_cast<int>(text.size()));
 }
 
 void setAtoms(XId window, const char* property, const Atom* atoms, int count)
 {
-    XChangeProperty(display(), window, atom(property), XA_ATOM, 32, PropModeReplace, reinterpret_cast<const unsigned char*>(atoms), count);
+    XChangeProperty(display(), window, atom(property), XA_ATOM, 32, PropModeReplace,
+                    reinterpret_cast<const unsigned char*>(atoms), count);
 }
 
 void sendToRoot(XId window, const char* type, long a, long b, long c)
@@ -47,7 +48,8 @@ void announceWindow(XId window, const std::string& instanceName, const std::stri
     setAtoms(window, "WM_PROTOCOLS", protocols, 3);
     setText(window, "WM_CLASS", "STRING", instanceName + '\0' + className + '\0');
     const long pid = getpid();
-    XChangeProperty(display(), window, atom("_NET_WM_PID"), XA_CARDINAL, 32, PropModeReplace, reinterpret_cast<const unsigned char*>(&pid), 1);
+    XChangeProperty(display(), window, atom("_NET_WM_PID"), XA_CARDINAL, 32, PropModeReplace,
+                    reinterpret_cast<const unsigned char*>(&pid), 1);
     char host[256] = "";
     if (gethostname(host, sizeof host - 1) == 0)
         setText(window, "WM_CLIENT_MACHINE", "STRING", host);
@@ -86,7 +88,8 @@ void setIconPixmap(XId window, XId pixmap, XId mask)
     XWMHints* hints = XGetWMHints(display(), window);
     if (!hints)
         hints = XAllocWMHints();
-    hints->flags = (hints->flags & ~(IconPixmapHint | IconMaskHint)) | (pixmap ? IconPixmapHint : 0) | (mask ? IconMaskHint : 0);
+    hints->flags = (hints->flags & ~(IconPixmapHint | IconMaskHint)) | (pixmap ? IconPixmapHint : 0) |
+                   (mask ? IconMaskHint : 0);
     hints->icon_pixmap = pixmap;
     hints->icon_mask = mask;
     XSetWMHints(display(), window, hints);
@@ -136,7 +139,8 @@ void setTransientFor(XId window, XId parent)
 
 void setWindowType(XId window, WindowType type)
 {
-    const Atom value = atom(type == WindowType::Dialog ? "_NET_WM_WINDOW_TYPE_DIALOG" : "_NET_WM_WINDOW_TYPE_NORMAL");
+    const Atom value =
+        atom(type == WindowType::Dialog ? "_NET_WM_WINDOW_TYPE_DIALOG" : "_NET_WM_WINDOW_TYPE_NORMAL");
     setAtoms(window, "_NET_WM_WINDOW_TYPE", &value, 1);
 }
 
@@ -157,7 +161,7 @@ void iconify(XId window)
 void requestState(XId window, bool mapped, const char* state, const char* otherState, bool on)
 {
     const Atom first = atom(state);
-    const Atom second = otherState ? atom(otherState) : XNone;
+    const Atom second = otherState ? atom(otherState) : 0;
     if (mapped) {
         sendToRoot(window, "_NET_WM_STATE", on ? 1 : 0, static_cast<long>(first), static_cast<long>(second));
         return;
@@ -181,8 +185,8 @@ bool hasWindowManager()
     unsigned long count;
     unsigned long rest;
     unsigned char* data = nullptr;
-    const int status = XGetWindowProperty(display(), rootWindow(), atom("_NET_SUPPORTING_WM_CHECK"), 0, 1, False, XA_WINDOW, &type, &format,
-                                          &count, &rest, &data);
+    const int status = XGetWindowProperty(display(), rootWindow(), atom("_NET_SUPPORTING_WM_CHECK"), 0, 1,
+                                          False, XA_WINDOW, &type, &format, &count, &rest, &data);
     if (data)
         XFree(data);
     return status == Success && type == XA_WINDOW && count == 1;
@@ -190,7 +194,8 @@ bool hasWindowManager()
 
 void answerPing(XId window, unsigned long time)
 {
-    sendToRoot(rootWindow(), "WM_PROTOCOLS", static_cast<long>(atom("_NET_WM_PING")), static_cast<long>(time), static_cast<long>(window));
+    sendToRoot(rootWindow(), "WM_PROTOCOLS", static_cast<long>(atom("_NET_WM_PING")), static_cast<long>(time),
+               static_cast<long>(window));
 }
 
 } // namespace x11

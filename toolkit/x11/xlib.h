@@ -6,9 +6,12 @@
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 #include <X11/Xatom.h>
+#include <X11/extensions/shape.h>
 
-namespace zeltk {
-namespace x11 {
+namespace zeltk
+{
+namespace x11
+{
 // The values behind the macros that are removed below.
 enum {
     XNone = None,

@@ -1,0 +1,139 @@
+// QEventLoop.
+#include <qeventloop.h>
+
+#include "kernel/applicationdata.h"
+#include "kernel/applicationprivate.h"
+#include "kernel/timerqueue.h"
+#include "x11/connection.h"
+#include "x11/events.h"
+
+#include <qdatetime.h>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <poll.h>
+#include <unistd.h>
+
+namespace x11 = zeltk::x11;
+
+namespace zeltk
+{
+
+struct EventLoopState {
+    int level = 0;
+    bool leaveLoop = false; // the innermost one
+    bool quit = false;      // all of them
+    int result = 0;
+    int wakeUpPipe[2] = {-1, -1};
+};
+
+} // namespace zeltk
+
+QEventLoop::QEventLoop(QObject* parent, const char* name)
+    : QObject(parent, name), d(new zeltk::EventLoopState)
+{
+    if (pipe2(d->wakeUpPipe, O_NONBLOCK | O_CLOEXEC) != 0)
+        qFatal("QEventLoop: no pipe can be made");
+}
+
+QEventLoop::~QEventLoop()
+{
+    ::close(d->wakeUpPipe[0]);
+    ::close(d->wakeUpPipe[1]);
+    delete d;
+}
+
+bool QEventLoop::hasPendingEvents() const
+{
+    return zeltk::hasPostedEvents() || (x11::connected() && x11::eventsPending());
+}
+
+// What the program has queued comes first, then what the X server and the clock bring.
+bool QEventLoop::processEvents(ProcessEventsFlags flags)
+{
+    bool found = zeltk::hasPostedEvents();
+    QApplication::sendPostedEvents();
+    if (x11::connected()) {
+        while (zeltk::dispatchEvents())
+            found = true;
+    }
+    found = zeltk::fireTimers() || found;
+    if (found || !(flags & WaitForMore) || d->leaveLoop || d->quit)
+        return found;
+    waitForEvents();
+    return true;
+}
+
+void QEventLoop::waitForEvents()
+{
+    if (x11::connected())
+        x11::flush();
+    if (hasPendingEvents())
+        return;
+    aboutToBlock();
+    pollfd watched[2] = {{d->wakeUpPipe[0], POLLIN, 0},
+                         {x11::connected() ? x11::connectionFd() : -1, POLLIN, 0}};
+    while (poll(watched, 2, zeltk::timeToNextTimer()) < 0 && errno == EINTR) {
+    }
+    char bytes[64];
+    while (read(d->wakeUpPipe[0], bytes, sizeof bytes) > 0) {
+    }
+    awake();
+}
+
+void QEventLoop::processEvents(ProcessEventsFlags flags, int maxtime)
+{
+    QTime start = QTime::currentTime();
+    while (!d->quit && processEvents(flags & ~static_cast<uint>(WaitForMore)) && start.elapsed() < maxtime) {
+    }
+}
+
+int QEventLoop::exec()
+{
+    d->quit = false;
+    d->result = 0;
+    enterLoop();
+    d->quit = false;
+    return d->result;
+}
+
+void QEventLoop::exit(int retcode)
+{
+    if (d->quit)
+        return;
+    d->quit = true;
+    d->result = retcode;
+    wakeUp();
+}
+
+int QEventLoop::enterLoop()
+{
+    const bool outer = d->leaveLoop;
+    d->leaveLoop = false;
+    ++d->level;
+    while (!d->leaveLoop && !d->quit)
+        processEvents(AllEvents | WaitForMore);
+    --d->level;
+    d->leaveLoop = outer;
+    if (d->level == 0 && d->quit)
+        zeltk::ApplicationAccess::emitAboutToQuit();
+    return d->level;
+}
+
+void QEventLoop::exitLoop()
+{
+    d->leaveLoop = true;
+    wakeUp();
+}
+
+int QEventLoop::loopLevel() const
+{
+    return d->level;
+}
+
+void QEventLoop::wakeUp()
+{
+    const char byte = 0;
+    if (write(d->wakeUpPipe[1], &byte, 1) < 0 && errno != EAGAIN)
+        qWarning("QEventLoop::wakeUp: the pipe cannot be written");
+}

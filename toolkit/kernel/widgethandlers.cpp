@@ -1,0 +1,187 @@
+// QWidget: events on their way to the handlers.
+#include <qwidget.h>
+
+#include "kernel/objectdata.h"
+#include "kernel/widgetdata.h"
+
+#include <qapplication.h>
+#include <qevent.h>
+
+bool QWidget::event(QEvent* event)
+{
+    if (zeltk::ObjectAccess::filter(this, event))
+        return true;
+    switch (event->type()) {
+    case QEvent::MouseMove:
+        mouseMoveEvent(static_cast<QMouseEvent*>(event));
+        return static_cast<QMouseEvent*>(event)->isAccepted();
+    case QEvent::MouseButtonPress:
+        mousePressEvent(static_cast<QMouseEvent*>(event));
+        return static_cast<QMouseEvent*>(event)->isAccepted();
+    case QEvent::MouseButtonRelease:
+        mouseReleaseEvent(static_cast<QMouseEvent*>(event));
+        return static_cast<QMouseEvent*>(event)->isAccepted();
+    case QEvent::MouseButtonDblClick:
+        mouseDoubleClickEvent(static_cast<QMouseEvent*>(event));
+        return static_cast<QMouseEvent*>(event)->isAccepted();
+    case QEvent::Wheel:
+        wheelEvent(static_cast<QWheelEvent*>(event));
+        return static_cast<QWheelEvent*>(event)->isAccepted();
+    case QEvent::KeyPress: {
+        QKeyEvent* key = static_cast<QKeyEvent*>(event);
+        bool moved = false;
+        if (!(key->state() & ControlButton) && !(key->state() & AltButton)) {
+            if (key->key() == Key_Backtab || (key->key() == Key_Tab && (key->state() & ShiftButton)))
+                moved = focusNextPrevChild(false);
+            else if (key->key() == Key_Tab)
+                moved = focusNextPrevChild(true);
+        }
+        if (!moved)
+            keyPressEvent(key);
+        return moved || key->isAccepted();
+    }
+    case QEvent::KeyRelease:
+        keyReleaseEvent(static_cast<QKeyEvent*>(event));
+        return static_cast<QKeyEvent*>(event)->isAccepted();
+    case QEvent::FocusIn:
+        focusInEvent(static_cast<QFocusEvent*>(event));
+        return true;
+    case QEvent::FocusOut:
+        focusOutEvent(static_cast<QFocusEvent*>(event));
+        return true;
+    case QEvent::Enter:
+        enterEvent(event);
+        return true;
+    case QEvent::Leave:
+        leaveEvent(event);
+        return true;
+    case QEvent::Paint:
+        paintEvent(static_cast<QPaintEvent*>(event));
+        return true;
+    case QEvent::Move:
+        moveEvent(static_cast<QMoveEvent*>(event));
+        return true;
+    case QEvent::Resize:
+        resizeEvent(static_cast<QResizeEvent*>(event));
+        return true;
+    case QEvent::Close:
+        closeEvent(static_cast<QCloseEvent*>(event));
+        return static_cast<QCloseEvent*>(event)->isAccepted();
+    case QEvent::ContextMenu:
+        contextMenuEvent(static_cast<QContextMenuEvent*>(event));
+        return static_cast<QContextMenuEvent*>(event)->isAccepted();
+    case QEvent::Show:
+        showEvent(static_cast<QShowEvent*>(event));
+        return true;
+    case QEvent::Hide:
+        hideEvent(static_cast<QHideEvent*>(event));
+        return true;
+    case QEvent::WindowActivate:
+    case QEvent::WindowDeactivate:
+        windowActivationChange(event->type() == QEvent::WindowDeactivate);
+        for (QWidget* child : zeltk::childWidgets(this))
+            if (child->isVisible() && !child->isTopLevel()) {
+                QEvent news(event->type());
+                QApplication::sendEvent(child, &news);
+            }
+        return true;
+    case QEvent::LanguageChange:
+    case QEvent::LocaleChange:
+        for (QWidget* child : zeltk::childWidgets(this)) {
+            QEvent news(event->type());
+            QApplication::sendEvent(child, &news);
+        }
+        update();
+        return true;
+    default:
+        // Filters have had their turn; QObject would ask them again.
+        return zeltk::handlePlainEvent(this, event);
+    }
+}
+
+void QWidget::mousePressEvent(QMouseEvent* event)
+{
+    event->ignore();
+    if (isPopup() && !rect().contains(event->pos()))
+        close();
+}
+
+void QWidget::mouseReleaseEvent(QMouseEvent* event)
+{
+    event->ignore();
+}
+
+void QWidget::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    event->ignore();
+    mousePressEvent(event);
+}
+
+void QWidget::mouseMoveEvent(QMouseEvent* event)
+{
+    event->ignore();
+}
+
+void QWidget::wheelEvent(QWheelEvent* event)
+{
+    event->ignore();
+}
+
+void QWidget::keyPressEvent(QKeyEvent* event)
+{
+    if (isPopup() && event->key() == Key_Escape) {
+        event->accept();
+        close();
+        return;
+    }
+    event->ignore();
+}
+
+void QWidget::keyReleaseEvent(QKeyEvent* event)
+{
+    event->ignore();
+}
+
+void QWidget::focusInEvent(QFocusEvent*)
+{
+    if (focusPolicy() != NoFocus || !isTopLevel())
+        update();
+}
+
+void QWidget::focusOutEvent(QFocusEvent*)
+{
+    if (focusPolicy() != NoFocus || !isTopLevel())
+        update();
+}
+
+void QWidget::enterEvent(QEvent*) {}
+
+void QWidget::leaveEvent(QEvent*) {}
+
+void QWidget::moveEvent(QMoveEvent*) {}
+
+void QWidget::resizeEvent(QResizeEvent*) {}
+
+void QWidget::closeEvent(QCloseEvent* event)
+{
+    event->accept();
+}
+
+void QWidget::contextMenuEvent(QContextMenuEvent* event)
+{
+    event->ignore();
+}
+
+void QWidget::showEvent(QShowEvent*) {}
+
+void QWidget::hideEvent(QHideEvent*) {}
+
+void QWidget::windowActivationChange(bool) {}
+
+void QWidget::setMouseTracking(bool enable)
+{
+    if (enable)
+        w->state |= WState_MouseTracking;
+    else
+        w->state &= ~WState_MouseTracking;
+}

@@ -1,0 +1,32 @@
+// What the two sides of the selections share. Only for sources of this folder.
+#ifndef ZELTK_X11_SELECTIONPRIVATE_H
+#define ZELTK_X11_SELECTIONPRIVATE_H
+
+#include "x11/selection.h"
+#include "x11/xlib.h"
+
+namespace zeltk
+{
+namespace x11
+{
+
+// The invisible window that owns selections and receives them.
+Window selectionWindow();
+Atom selectionAtom(Selection selection);
+// Asks the owner of the selection for its text.
+bool requestText(Atom selection, std::string* utf8);
+// Waits until the server has news for the program or the deadline is over, in milliseconds of a clock that
+// only grows.
+bool waitForNews(long deadline);
+long clockMilliseconds();
+
+std::string latin1FromUtf8(const std::string& utf8);
+std::string utf8FromLatin1(const std::string& latin1);
+
+// Answers requests and goes on with transfers while the program waits for a selection itself.
+void serveRequests();
+
+} // namespace x11
+} // namespace zeltk
+
+#endif

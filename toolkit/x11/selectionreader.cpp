@@ -1,0 +1,166 @@
+// Receiving the selections of other programs.
+#include "x11/selectionprivate.h"
+
+#include <chrono>
+#include <poll.h>
+
+namespace zeltk
+{
+namespace x11
+{
+
+namespace
+{
+
+// How long an owner may take for its answer, and for each piece of a long one.
+constexpr long patience = 5000;
+
+struct Property {
+    Atom type = 0;
+    std::string bytes;
+};
+
+// Reads and deletes the property; the deletion asks for the next piece.
+Property takeProperty(Atom name)
+{
+    Property result;
+    unsigned long rest = 1;
+    long offset = 0; // in units of four bytes
+    while (rest > 0) {
+        int format = 0;
+        unsigned long count = 0;
+        unsigned char* data = nullptr;
+        if (XGetWindowProperty(display(), selectionWindow(), name, offset, 65536, False, AnyPropertyType,
+                               &result.type, &format, &count, &rest, &data) != Success)
+            return Property();
+        if (format == 8)
+            result.bytes.append(reinterpret_cast<const char*>(data), count);
+        else
+            rest = 0;
+        offset += static_cast<long>(count / 4);
+        if (data)
+            XFree(data);
+    }
+    XDeleteProperty(display(), selectionWindow(), name);
+    return result;
+}
+
+int isAnswer(Display*, XEvent* event, XPointer)
+{
+    return event->type == SelectionNotify && event->xselection.requestor == selectionWindow();
+}
+
+int isNewPiece(Display*, XEvent* event, XPointer name)
+{
+    return event->type == PropertyNotify && event->xproperty.window == selectionWindow() &&
+           event->xproperty.state == PropertyNewValue &&
+           event->xproperty.atom == *reinterpret_cast<Atom*>(name);
+}
+
+bool waitFor(XEvent* event, int (*condition)(Display*, XEvent*, XPointer), Atom* argument)
+{
+    const long deadline = clockMilliseconds() + patience;
+    do {
+        serveRequests();
+        if (XCheckIfEvent(display(), event, condition, reinterpret_cast<XPointer>(argument)))
+            return true;
+    } while (waitForNews(deadline));
+    return false;
+}
+
+bool readPieces(Atom name, Property* whole)
+{
+    whole->bytes.clear();
+    XEvent event;
+    while (waitFor(&event, isNewPiece, &name)) {
+        const Property piece = takeProperty(name);
+        if (piece.bytes.empty())
+            return true;
+        whole->type = piece.type;
+        whole->bytes += piece.bytes;
+    }
+    return false;
+}
+
+bool request(Atom selection, Atom target, std::string* utf8)
+{
+    Atom name = atom("_ZELTK_SELECTION");
+    XDeleteProperty(display(), selectionWindow(), name);
+    XConvertSelection(display(), selection, target, name, selectionWindow(), CurrentTime);
+    XEvent event;
+    if (!waitFor(&event, isAnswer, nullptr) || event.xselection.property == XNone ||
+        event.xselection.target != target)
+        return false;
+    // Only what comes after the first part is a piece.
+    XSync(display(), False);
+    XEvent old;
+    while (XCheckIfEvent(display(), &old, isNewPiece, reinterpret_cast<XPointer>(&name)))
+        ;
+    Property property = takeProperty(name);
+    if (property.type == atom("INCR") && !readPieces(name, &property))
+        return false;
+    *utf8 = property.type == XA_STRING ? utf8FromLatin1(property.bytes) : property.bytes;
+    return property.type == XA_STRING || property.type == atom("UTF8_STRING");
+}
+
+} // namespace
+
+long clockMilliseconds()
+{
+    using namespace std::chrono;
+    return static_cast<long>(duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count());
+}
+
+bool waitForNews(long deadline)
+{
+    const long rest = deadline - clockMilliseconds();
+    pollfd server = {connectionFd(), POLLIN, 0};
+    XFlush(display());
+    if (rest <= 0 || poll(&server, 1, static_cast<int>(rest)) <= 0)
+        return false;
+    XEventsQueued(display(), QueuedAfterReading);
+    return true;
+}
+
+bool requestText(Atom selection, std::string* utf8)
+{
+    if (XGetSelectionOwner(display(), selection) == XNone)
+        return false;
+    return request(selection, atom("UTF8_STRING"), utf8) || request(selection, XA_STRING, utf8);
+}
+
+std::string latin1FromUtf8(const std::string& utf8)
+{
+    std::string result;
+    for (size_t i = 0; i < utf8.size(); ++i) {
+        const unsigned char c = static_cast<unsigned char>(utf8[i]);
+        const unsigned char next = i + 1 < utf8.size() ? static_cast<unsigned char>(utf8[i + 1]) : 0;
+        if (c < 0x80) {
+            result += static_cast<char>(c);
+        } else if (c == 0xc2 || c == 0xc3) {
+            result += static_cast<char>((c & 3) << 6 | (next & 0x3f));
+            ++i;
+        } else if (c >= 0xc0) {
+            result += '?'; // the bytes that follow belong to it and add nothing
+        }
+    }
+    return result;
+}
+
+std::string utf8FromLatin1(const std::string& latin1)
+{
+    std::string result;
+    for (const char letter : latin1) {
+        const unsigned char c = static_cast<unsigned char>(letter);
+        if (c < 0x80) {
+            result += letter;
+        } else {
+            result += static_cast<char>(0xc0 | c >> 6);
+            result += static_cast<char>(0x80 | (c & 0x3f));
+        }
+    }
+    return result;
+}
+
+} // namespace x11
+} // namespace zeltk
