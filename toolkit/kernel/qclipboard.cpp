@@ -6,6 +6,7 @@
 
 #include <qapplication.h>
 #include <qcstring.h>
+#include <qguardedptr.h>
 
 namespace x11 = zeltk::x11;
 
@@ -118,4 +119,12 @@ void QClipboard::setText(const QString& text, Mode mode)
         qWarning("QClipboard::setText: the X server gave the %s to another program",
                  mode == Selection ? "selection" : "clipboard");
     zeltk::ClipboardAccess::changed(this, selectionOf(mode));
+}
+
+QClipboard* QApplication::clipboard()
+{
+    static QGuardedPtr<QClipboard> made; // goes with the application
+    if (made.isNull())
+        made = new QClipboard(qApp, "clipboard");
+    return made;
 }

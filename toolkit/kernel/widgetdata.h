@@ -21,12 +21,9 @@ struct WidgetData {
     QSize step = QSize(0, 0);
     QSize base = QSize(0, 0);
     QSizePolicy policy = QSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
-    bool moved = true; // Move and Resize events wait for show()
-    bool resized = true;
-    bool placed = false; // the program chose the place
-    bool sized = false;  // and the size
-    QPoint oldPos;
-    QSize oldSize;
+    bool placed = false;               // the program chose the place
+    bool mapped = false;               // the server was told to show the window
+    unsigned long configureSerial = 0; // the latest change of the geometry that the server was told of
 
     QPalette palette;
     bool ownPalette = false;
@@ -34,11 +31,13 @@ struct WidgetData {
     QFont askedFont; // the widget's own wishes
     bool ownFont = false;
     bool selfDisabled = false; // not only through the parent
+    bool selfHidden = false;   // by the program
     QCursor* cursor = nullptr;
 
     Qt::BackgroundMode mode = Qt::PaletteBackground;
     Qt::BackgroundMode visualMode = Qt::PaletteBackground;
     QColor background; // what erase() paints
+    bool plainBackground = false; // the server has been told this colour
     QPixmap* backgroundPixmap = nullptr;
     QWidget::BackgroundOrigin origin = QWidget::WidgetOrigin;
 
@@ -55,10 +54,9 @@ struct WidgetData {
     QString caption;
     QString iconText;
     QPixmap* icon = nullptr;
-    bool minimized = false;
-    bool maximized = false;
-    bool fullScreen = false;
-    QRect normalRect; // before maximizing
+    bool described = false; // the window manager has been told all about the window
+    uint windowState = 0;
+    QRect normalRect; // before it became large
 };
 
 struct WidgetAccess {
@@ -89,21 +87,26 @@ void inheritLook(QWidget* widget);
 // Sets the window's background from its mode and colours.
 void applyBackground(QWidget* widget);
 void applyCursor(QWidget* widget);
-// Puts the window into its new parent's, with the geometry of a new widget.
-void moveWindowTo(QWidget* widget, QWidget* parent, bool wasTopLevel);
+// Puts the window into its new parent's, with the geometry and the flags of a new widget.
+void rehangWindow(QWidget* widget, Qt::WFlags flags);
 void leaveTabOrder(QWidget* widget);
 void joinTabOrder(QWidget* widget);
+// Tell the window manager all it may know; once it knows, only what changed.
+void describeWindow(QWidget* window);
 void applySizeHints(QWidget* window);
-void announce(QWidget* window);
+void applyWindowHints(QWidget* window);
 
-// Enables or disables through the parent.
-void setEnabledByParent(QWidget* widget, bool enable);
-void deliverPendingGeometry(QWidget* widget);
+// Enables or disables the widget and all inside it, as they and their ancestors say.
+void refreshEnabled(QWidget* widget);
+// Sends the paint event, wherever the widget's painters draw at the moment.
+void deliverPaint(QWidget* widget, const QRegion& region, bool erased);
 
 // News from the X server.
 void windowExposed(QWidget* widget, const QRect& rect, int more);
 void windowConfigured(QWidget* window, const QRect& rect);
 void windowReparented(QWidget* window);
+void windowMapped(QWidget* window);
+void windowUnmapped(QWidget* window);
 // A queued paint event is delivered.
 void repaintPosted(QWidget* widget, const QRegion& region, bool erase);
 

@@ -2,6 +2,7 @@
 #include "x11/connection.h"
 
 #include "x11/errors.h"
+#include "x11/selection.h"
 #include "x11/xlib.h"
 
 #include <map>
@@ -44,6 +45,7 @@ void closeConnection()
         XCloseDisplay(server);
     server = nullptr;
     atoms().clear();
+    forgetSelections();
 }
 
 bool connected()

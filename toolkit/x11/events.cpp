@@ -1,6 +1,7 @@
 // Events of the X server in plain form.
 #include "x11/events.h"
 
+#include "x11/selection.h"
 #include "x11/xlib.h"
 
 namespace zeltk
@@ -12,6 +13,7 @@ namespace
 {
 
 unsigned long latest = 0;
+unsigned long serial = 0;
 
 void noteTime(unsigned long time, Event* event)
 {
@@ -209,8 +211,9 @@ bool nextEvent(Event* event)
         return false;
     XEvent x;
     XNextEvent(display(), &x);
+    serial = x.xany.serial;
     *event = Event();
-    if (!XFilterEvent(&x, XNone))
+    if (!XFilterEvent(&x, XNone) && !handleSelectionEvent(&x))
         translate(&x, event);
     return true;
 }
@@ -231,6 +234,11 @@ void compressMotion(Event* event)
 unsigned long lastTime()
 {
     return latest;
+}
+
+unsigned long lastSerial()
+{
+    return serial;
 }
 
 } // namespace x11

@@ -57,6 +57,8 @@ bool eventsPending();
 void compressMotion(Event* event);
 // The time of the last event that had one.
 unsigned long lastTime();
+// How far the server had come with our requests when it sent the event that was taken last.
+unsigned long lastSerial();
 
 } // namespace x11
 } // namespace zeltk

@@ -1,0 +1,117 @@
+// QWidget: how small and how large it may be.
+#include "kernel/widgetdata.h"
+
+namespace
+{
+
+QSize limited(const char* function, const QSize& size)
+{
+    const QSize most(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    const QSize result = size.expandedTo(QSize(0, 0)).boundedTo(most);
+    if (result != size)
+        qWarning("QWidget::%s: Sizes reach from (0,0) to (%d,%d)", function, most.width(), most.height());
+    return result;
+}
+
+void tell(QWidget* widget)
+{
+    if (widget->isTopLevel())
+        zeltk::applySizeHints(widget);
+}
+
+} // namespace
+
+QSize QWidget::minimumSize() const
+{
+    return w->minimum;
+}
+
+QSize QWidget::maximumSize() const
+{
+    return w->maximum;
+}
+
+void QWidget::setMinimumSize(int minw, int minh)
+{
+    const QSize limit = limited("setMinimumSize", QSize(minw, minh));
+    if (limit == w->minimum)
+        return;
+    w->minimum = limit;
+    if (width() < limit.width() || height() < limit.height())
+        resize(size().expandedTo(limit));
+    tell(this);
+    updateGeometry();
+}
+
+void QWidget::setMaximumSize(int maxw, int maxh)
+{
+    const QSize limit = limited("setMaximumSize", QSize(maxw, maxh));
+    if (limit == w->maximum)
+        return;
+    w->maximum = limit;
+    if (width() > limit.width() || height() > limit.height())
+        resize(size().boundedTo(limit));
+    tell(this);
+    updateGeometry();
+}
+
+void QWidget::setMinimumWidth(int minw)
+{
+    setMinimumSize(minw, minimumHeight());
+}
+
+void QWidget::setMinimumHeight(int minh)
+{
+    setMinimumSize(minimumWidth(), minh);
+}
+
+void QWidget::setMaximumWidth(int maxw)
+{
+    setMaximumSize(maxw, maximumHeight());
+}
+
+void QWidget::setMaximumHeight(int maxh)
+{
+    setMaximumSize(maximumWidth(), maxh);
+}
+
+void QWidget::setFixedSize(int width, int height)
+{
+    setMinimumSize(width, height);
+    setMaximumSize(width, height);
+    resize(width, height);
+}
+
+void QWidget::setFixedWidth(int width)
+{
+    setMinimumSize(width, minimumHeight());
+    setMaximumSize(width, maximumHeight());
+}
+
+void QWidget::setFixedHeight(int height)
+{
+    setMinimumSize(minimumWidth(), height);
+    setMaximumSize(maximumWidth(), height);
+}
+
+QSize QWidget::sizeIncrement() const
+{
+    return w->step;
+}
+
+void QWidget::setSizeIncrement(int width, int height)
+{
+    w->step = QSize(width, height);
+    tell(this);
+}
+
+QSize QWidget::baseSize() const
+{
+    return w->base;
+}
+
+void QWidget::setBaseSize(int width, int height)
+{
+    w->base = QSize(width, height);
+    tell(this);
+}
