@@ -73,6 +73,8 @@ public:
         NoAccel = 0x4000
     };
 
+    enum TextFormat { PlainText = 0, AutoText = 2 };
+
     typedef uint WState;
     enum WidgetState {
         WState_Created = 0x00000001,
