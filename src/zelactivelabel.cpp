@@ -1,6 +1,7 @@
 #include "zelactivelabel.h"
 #include "hoverpress.h"
 
+#include <qevent.h>
 #include <qcolor.h>
 #include <qdrawutil.h>
 #include <qpainter.h>
