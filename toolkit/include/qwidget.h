@@ -66,6 +66,7 @@ public:
 
     bool isEnabled() const { return !testWState(WState_Disabled); }
     bool isEnabledTo(QWidget* ancestor) const;
+    bool isEnabledToTLW() const { return isEnabled(); }
 
     QRect frameGeometry() const;
     const QRect& geometry() const;
@@ -128,6 +129,7 @@ public:
     const QPalette& palette() const;
     bool ownPalette() const;
     virtual void setPalette(const QPalette& palette);
+    void setPalette(const QPalette& palette, bool) { setPalette(palette); }
     void unsetPalette();
     const QColor& paletteForegroundColor() const;
     void setPaletteForegroundColor(const QColor& color);
@@ -147,7 +149,7 @@ public:
     QFont font() const;
     bool ownFont() const;
     virtual void setFont(const QFont& font);
-    virtual void setFont(const QFont& font, bool) { setFont(font); }
+    void setFont(const QFont& font, bool) { setFont(font); }
     void unsetFont();
     QFontMetrics fontMetrics() const;
     QFontInfo fontInfo() const;
@@ -191,12 +193,16 @@ public:
     virtual bool close(bool alsoDelete);
     bool isVisible() const { return testWState(WState_Visible); }
     bool isVisibleTo(QWidget* ancestor) const;
+    bool isVisibleToTLW() const { return isVisible(); }
     QRect visibleRect() const;
     bool isHidden() const { return testWState(WState_ForceHide); }
     bool isShown() const { return !isHidden(); }
     bool isMinimized() const;
     bool isMaximized() const;
     bool isFullScreen() const;
+    //! Bits of Qt::WindowState.
+    uint windowState() const;
+    void setWindowState(uint state);
 
     virtual QSize sizeHint() const;
     virtual QSize minimumSizeHint() const;
@@ -268,7 +274,7 @@ public slots:
     void iconify();
     virtual void showMinimized();
     virtual void showMaximized();
-    void showFullScreen();
+    virtual void showFullScreen();
     virtual void showNormal();
     virtual void polish();
     void constPolish() const;

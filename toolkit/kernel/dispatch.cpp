@@ -314,13 +314,6 @@ void configured(QWidget* window, const x11::Event& e)
     windowConfigured(window, QRect(pos, QSize(e.width, e.height)));
 }
 
-void unmapped(QWidget* window)
-{
-    WidgetData* data = dataOf(window);
-    if (window->isTopLevel() && window->isVisible())
-        data->minimized = true;
-}
-
 void dispatch(const x11::Event& e)
 {
     if (e.type != x11::Event::EnterWindow && e.type != x11::Event::LeaveWindow)
@@ -357,10 +350,10 @@ void dispatch(const x11::Event& e)
         configured(widget, e);
         break;
     case x11::Event::Mapped:
-        dataOf(widget)->minimized = false;
+        windowMapped(widget);
         break;
     case x11::Event::Unmapped:
-        unmapped(widget);
+        windowUnmapped(widget);
         break;
     case x11::Event::Reparented:
         if (widget->isTopLevel())

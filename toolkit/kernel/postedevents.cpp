@@ -22,22 +22,41 @@ std::list<Posted>& queue()
     return *posted;
 }
 
-// Updates of one widget become one event, as do wishes for a new layout.
-bool merged(QObject* receiver, QEvent* event)
+// One event that says what both say; null if each must be sent.
+QEvent* merged(QEvent* before, QEvent* now)
 {
-    if (event->type() != QEvent::Paint && event->type() != QEvent::LayoutHint)
-        return false;
+    switch (now->type()) {
+    case QEvent::Paint: {
+        const QPaintEvent* first = static_cast<QPaintEvent*>(before);
+        const QPaintEvent* second = static_cast<QPaintEvent*>(now);
+        return new QPaintEvent(first->region() | second->region(), first->erased() || second->erased());
+    }
+    case QEvent::Move:
+        return new QMoveEvent(static_cast<QMoveEvent*>(now)->pos(),
+                              static_cast<QMoveEvent*>(before)->oldPos());
+    case QEvent::Resize:
+        return new QResizeEvent(static_cast<QResizeEvent*>(now)->size(),
+                                static_cast<QResizeEvent*>(before)->oldSize());
+    case QEvent::LayoutHint:
+        return new QEvent(QEvent::LayoutHint);
+    default:
+        return nullptr;
+    }
+}
+
+// Updates of one widget become one event, as do wishes for a new layout, moves and resizes of a hidden
+// widget.
+bool joinsEarlier(QObject* receiver, QEvent* event)
+{
     for (Posted& posted : queue()) {
         if (posted.receiver != receiver || !posted.event || posted.event->type() != event->type())
             continue;
-        if (event->type() == QEvent::Paint) {
-            const QPaintEvent* before = static_cast<QPaintEvent*>(posted.event);
-            const QPaintEvent* now = static_cast<QPaintEvent*>(event);
-            QEvent* both =
-                new QPaintEvent(before->region() | now->region(), before->erased() || now->erased());
-            delete posted.event;
-            posted.event = both;
-        }
+        QEvent* both = merged(posted.event, event);
+        if (!both)
+            return false;
+        zeltk::EventAccess::setPosted(both, true);
+        delete posted.event;
+        posted.event = both;
         return true;
     }
     return false;
@@ -98,7 +117,7 @@ void QApplication::postEvent(QObject* receiver, QEvent* event)
         delete event;
         return;
     }
-    if (merged(receiver, event)) {
+    if (joinsEarlier(receiver, event)) {
         delete event;
         return;
     }

@@ -31,12 +31,15 @@ std::vector<QWidget*>& widgets()
     return *all;
 }
 
-// Windows are of one kind; popups and the desktop are always windows.
-Qt::WFlags completed(Qt::WFlags f, const QWidget* parent)
+// Fills in what the caller left open.
+Qt::WFlags completed(Qt::WFlags f, const QObject* parent)
 {
-    if (!parent || (f & (Qt::WType_Popup | Qt::WType_Desktop | Qt::WType_Dialog)))
+    if (!parent || (f & Qt::WType_Mask))
         f |= Qt::WType_TopLevel;
-    return f;
+    if (!(f & Qt::WType_TopLevel) || (f & (Qt::WType_Popup | Qt::WType_Desktop | Qt::WStyle_Customize)))
+        return f;
+    f |= Qt::WStyle_NormalBorder | Qt::WStyle_Title | Qt::WStyle_SysMenu;
+    return f | (f & Qt::WType_Dialog ? Qt::WStyle_ContextHelp : Qt::WStyle_MinMax);
 }
 
 // In the middle of the screen, with a quarter of its area and room left for a frame.
@@ -49,9 +52,34 @@ QRect initialRect(bool topLevel)
     return QRect(x11::screenWidth() / 2 - width / 2, x11::screenHeight() / 2 - height / 2, width, height);
 }
 
-WId parentWindow(const QWidget* parent, bool topLevel)
+bool isUnmanaged(const QWidget* widget)
 {
-    return topLevel ? x11::rootWindow() : parent->winId();
+    return widget->testWFlags(Qt::WType_Popup | Qt::WX11BypassWM);
+}
+
+WId outerWindow(const QWidget* widget)
+{
+    return widget->isTopLevel() ? x11::rootWindow() : widget->parentWidget()->winId();
+}
+
+// A new widget hears where it is before it is shown, at the latest.
+void startGeometry(QWidget* widget)
+{
+    WidgetData* data = zeltk::dataOf(widget);
+    const QRect start = initialRect(widget->isTopLevel());
+    data->rect = data->frame = start;
+    QApplication::postEvent(widget, new QMoveEvent(start.topLeft(), start.topLeft()));
+    QApplication::postEvent(widget, new QResizeEvent(start.size(), start.size()));
+}
+
+// The server ends all windows inside with it.
+void forgetWindows(QWidget* widget)
+{
+    byWindow().erase(widget->winId());
+    zeltk::WidgetAccess::setWinId(widget, 0);
+    for (QWidget* child : zeltk::childWidgets(widget))
+        if (!child->isTopLevel())
+            forgetWindows(child);
 }
 
 } // namespace
@@ -75,61 +103,45 @@ const std::vector<QWidget*>& everyWidget()
     return widgets();
 }
 
-void makeWindow(QWidget* widget, const QWidget* parent)
+void makeWindow(QWidget* widget)
 {
     WidgetData* data = dataOf(widget);
-    const bool topLevel = widget->isTopLevel();
-    data->rect = initialRect(topLevel);
-    data->frame = data->rect;
-    data->oldPos = data->rect.topLeft();
-    data->oldSize = data->rect.size();
-    data->moved = data->resized = true;
-    const bool unmanaged = data->flags & (Qt::WType_Popup | Qt::WX11BypassWM);
     if (widget->isDesktop()) {
         data->rect = data->frame = QRect(0, 0, x11::screenWidth(), x11::screenHeight());
         WidgetAccess::setWinId(widget, x11::rootWindow());
     } else {
-        WidgetAccess::setWinId(widget, x11::createWindow(parentWindow(parent, topLevel), data->rect.x(),
-                                                         data->rect.y(), data->rect.width(),
-                                                         data->rect.height(), topLevel, unmanaged));
+        startGeometry(widget);
+        const QRect& box = data->rect;
+        WidgetAccess::setWinId(widget,
+                               x11::createWindow(outerWindow(widget), box.x(), box.y(), box.width(),
+                                                 box.height(), widget->isTopLevel(), isUnmanaged(widget)));
         byWindow()[widget->winId()] = widget;
+        if (data->flags & Qt::WStaticContents)
+            x11::keepContents(widget->winId(), true);
     }
     data->state |= Qt::WState_Created;
-    if (data->flags & (Qt::WStaticContents))
-        x11::keepContents(widget->winId(), true);
 }
 
-void moveWindowTo(QWidget* widget, QWidget* parent, bool wasTopLevel)
+void rehangWindow(QWidget* widget, Qt::WFlags flags)
 {
     WidgetData* data = dataOf(widget);
-    const bool topLevel = widget->isTopLevel();
-    if (topLevel != wasTopLevel) {
-        // Another kind of window: its children move over to it.
-        const WId old = widget->winId();
-        byWindow().erase(old);
-        makeWindow(widget, parent);
-        for (const QWidget* child : childWidgets(widget))
-            if (!child->isTopLevel())
-                x11::reparentWindow(child->winId(), widget->winId(), child->x(), child->y());
-        x11::destroyWindow(old);
-        if (topLevel)
-            announce(widget);
-        applyCursor(widget);
-        return;
-    }
-    data->rect = data->frame = initialRect(topLevel);
-    data->oldPos = data->rect.topLeft();
-    data->oldSize = data->rect.size();
-    data->moved = data->resized = true;
-    if (!topLevel)
-        x11::reparentWindow(widget->winId(), parent->winId(), data->rect.x(), data->rect.y());
+    data->flags = completed(flags, widget->parent());
+    data->described = false;
+    data->windowState = 0;
+    WidgetAccess::clearState(widget, Qt::WState_Resized);
+    startGeometry(widget);
+    const QRect& box = data->rect;
+    x11::rehangWindow(widget->winId(), outerWindow(widget), box.x(), box.y(), widget->isTopLevel(),
+                      isUnmanaged(widget));
+    x11::moveResizeWindow(widget->winId(), box.x(), box.y(), box.width(), box.height());
 }
 
 void unmakeWindow(QWidget* widget)
 {
-    byWindow().erase(widget->winId());
-    if (x11::connected() && !widget->isDesktop())
-        x11::destroyWindow(widget->winId());
+    const WId window = widget->winId();
+    forgetWindows(widget);
+    if (window && x11::connected() && !widget->isDesktop())
+        x11::destroyWindow(window);
 }
 
 } // namespace zeltk
@@ -143,14 +155,12 @@ QWidget::QWidget(QWidget* parent, const char* name, WFlags f)
     zeltk::dataOf(static_cast<QObject*>(this))->isWidget = true;
     w->flags = completed(f, parent);
     widgets().push_back(this);
-    zeltk::makeWindow(this, parent);
+    zeltk::makeWindow(this);
     if (isTopLevel() || parent->isVisible())
         w->state |= WState_ForceHide;
     if (!isTopLevel() && !parent->isEnabled())
         w->state |= WState_Disabled;
     zeltk::inheritLook(this);
-    if (isTopLevel() && !isDesktop())
-        zeltk::announce(this);
     zeltk::applyBackground(this);
 }
 
@@ -162,7 +172,6 @@ QWidget::~QWidget()
     for (QWidget* other : widgets())
         if (zeltk::dataOf(other)->focusProxy == this)
             zeltk::WidgetAccess::focusProxyDestroyed(other);
-    zeltk::deleteChildren(this);
     widgets().erase(std::find(widgets().begin(), widgets().end(), this));
     zeltk::unmakeWindow(this);
     zeltk::dataOf(static_cast<QObject*>(this))->isWidget = false;
@@ -236,84 +245,4 @@ QWidget* QWidget::topLevelWidget() const
 bool QWidget::isModal() const
 {
     return testWFlags(WShowModal);
-}
-
-bool QWidget::isEnabledTo(QWidget* ancestor) const
-{
-    for (const QWidget* widget = this; widget && widget != ancestor; widget = widget->parentWidget(true))
-        if (zeltk::dataOf(widget)->selfDisabled)
-            return false;
-    return true;
-}
-
-void QWidget::setEnabled(bool enable)
-{
-    w->selfDisabled = !enable;
-    if (enable && !isTopLevel() && parentWidget() && !parentWidget()->isEnabled())
-        return;
-    zeltk::setEnabledByParent(this, enable);
-}
-
-void QWidget::setDisabled(bool disable)
-{
-    setEnabled(!disable);
-}
-
-namespace zeltk
-{
-
-void setEnabledByParent(QWidget* widget, bool enable)
-{
-    if (widget->isEnabled() == enable || (enable && dataOf(widget)->selfDisabled))
-        return;
-    if (enable) {
-        WidgetAccess::clearState(widget, Qt::WState_Disabled);
-    } else {
-        WidgetAccess::setState(widget, Qt::WState_Disabled);
-        widgetDisabled(widget);
-    }
-    applyBackground(widget);
-    WidgetAccess::enabledChange(widget, !enable);
-    for (QWidget* child : childWidgets(widget))
-        if (!child->isTopLevel())
-            setEnabledByParent(child, enable);
-}
-
-} // namespace zeltk
-
-void QWidget::enabledChange(bool)
-{
-    update();
-}
-
-QWidget* QWidget::childAt(int x, int y, bool includeThis) const
-{
-    if (!rect().contains(x, y))
-        return nullptr;
-    const std::vector<QWidget*> all = zeltk::childWidgets(this);
-    for (auto it = all.rbegin(); it != all.rend(); ++it) {
-        QWidget* child = *it;
-        if (child->isTopLevel() || child->isHidden() || !child->geometry().contains(x, y))
-            continue;
-        return child->childAt(x - child->x(), y - child->y(), true);
-    }
-    return includeThis ? const_cast<QWidget*>(this) : nullptr;
-}
-
-QRect QWidget::childrenRect() const
-{
-    QRect all(0, 0, 0, 0);
-    for (const QWidget* child : zeltk::childWidgets(this))
-        if (!child->isTopLevel() && !child->isHidden())
-            all |= child->geometry();
-    return all;
-}
-
-QRegion QWidget::childrenRegion() const
-{
-    QRegion all;
-    for (const QWidget* child : zeltk::childWidgets(this))
-        if (!child->isTopLevel() && !child->isHidden())
-            all |= child->geometry();
-    return all;
 }

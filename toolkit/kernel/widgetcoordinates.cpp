@@ -49,11 +49,6 @@ QWidget* QWidget::childAt(int x, int y, bool includeThis) const
     return includeThis ? const_cast<QWidget*>(this) : 0;
 }
 
-QWidget* QWidget::childAt(const QPoint& pos, bool includeThis) const
-{
-    return childAt(pos.x(), pos.y(), includeThis);
-}
-
 QRect QWidget::childrenRect() const
 {
     QRect all;

@@ -36,7 +36,7 @@ struct WidgetData {
 
     Qt::BackgroundMode mode = Qt::PaletteBackground;
     Qt::BackgroundMode visualMode = Qt::PaletteBackground;
-    QColor background; // what erase() paints
+    QColor background;            // what erase() paints
     bool plainBackground = false; // the server has been told this colour
     QPixmap* backgroundPixmap = nullptr;
     QWidget::BackgroundOrigin origin = QWidget::WidgetOrigin;

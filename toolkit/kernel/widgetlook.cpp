@@ -42,7 +42,7 @@ const QBrush& backgroundBrush(const QWidget* widget, Qt::BackgroundMode mode)
 
 void setPixmap(WidgetData* data, const QPixmap* pixmap)
 {
-    QPixmap* copy = pixmap && !pixmap->isNull() ? new QPixmap(*pixmap) : nullptr;
+    QPixmap* copy = pixmap ? new QPixmap(*pixmap) : nullptr;
     delete data->backgroundPixmap;
     data->backgroundPixmap = copy;
 }
@@ -108,14 +108,20 @@ void applyBackground(QWidget* widget)
         return;
     if (isPaletteMode(data->mode)) {
         const QBrush& brush = backgroundBrush(widget, data->mode);
+        if (data->plainBackground && !brush.pixmap() && brush.color() == data->background)
+            return;
         data->background = brush.color();
         setPixmap(data, brush.pixmap());
     }
+    const bool tiled = data->backgroundPixmap && !data->backgroundPixmap->isNull();
+    data->plainBackground = isPaletteMode(data->mode) && !tiled;
     if (data->mode == Qt::NoBackground)
         x11::setNoBackground(widget->winId());
     else if (data->mode == Qt::X11ParentRelative)
         x11::setParentBackground(widget->winId());
-    else if (data->backgroundPixmap)
+    else if (tiled && data->origin != QWidget::WidgetOrigin)
+        x11::setNoBackground(widget->winId()); // the tiles are laid by erase()
+    else if (tiled)
         x11::setBackgroundPixmap(widget->winId(), data->backgroundPixmap->handle());
     else
         x11::setBackgroundColor(widget->winId(), data->background.rgb() & RGB_MASK);
@@ -124,7 +130,9 @@ void applyBackground(QWidget* widget)
 void applyCursor(QWidget* widget)
 {
     const WidgetData* data = dataOf(widget);
-    const QCursor* cursor = QApplication::overrideCursor() ? QApplication::overrideCursor() : data->cursor;
+    const QCursor* cursor = data->cursor;
+    if (QApplication::overrideCursor() && (cursor || widget->isTopLevel()))
+        cursor = QApplication::overrideCursor();
     if (!widget->isDesktop())
         x11::setCursor(widget->winId(), cursor ? cursor->handle() : 0);
 }
@@ -156,20 +164,15 @@ void QWidget::setPalette(const QPalette& palette)
 
 void QWidget::unsetPalette()
 {
-    w->ownPalette = false;
-    if (!isPaletteMode(w->mode))
-        w->mode = w->visualMode = PaletteBackground;
     setPalette(inheritedPalette(this));
     w->ownPalette = false;
-    zeltk::applyBackground(this);
-    update();
 }
 
 void QWidget::paletteChange(const QPalette&) {}
 
 const QColor& QWidget::foregroundColor() const
 {
-    return colorGroup().color(QPalette::foregroundRoleFromMode(w->mode));
+    return paletteForegroundColor();
 }
 
 const QColor& QWidget::paletteForegroundColor() const
@@ -229,17 +232,20 @@ Qt::BackgroundMode QWidget::backgroundMode() const
 
 void QWidget::setBackgroundMode(BackgroundMode mode)
 {
-    setBackgroundMode(mode, mode);
+    if (mode == FixedColor || mode == FixedPixmap)
+        return; // these are set with their colour or pixmap
+    w->mode = w->visualMode = mode;
+    w->plainBackground = false;
+    const QPixmap none;
+    setPixmap(w, mode == NoBackground ? &none : nullptr);
+    zeltk::applyBackground(this);
+    update();
 }
 
 void QWidget::setBackgroundMode(BackgroundMode mode, BackgroundMode visualMode)
 {
-    if (mode == w->mode && visualMode == w->visualMode)
-        return;
-    w->mode = mode;
+    setBackgroundMode(mode);
     w->visualMode = visualMode;
-    zeltk::applyBackground(this);
-    update();
 }
 
 const QColor& QWidget::eraseColor() const
@@ -263,7 +269,11 @@ const QPixmap* QWidget::erasePixmap() const
 
 void QWidget::setErasePixmap(const QPixmap& pixmap)
 {
-    w->mode = w->visualMode = pixmap.isNull() ? NoBackground : FixedPixmap;
+    if (pixmap.isNull()) {
+        setEraseColor(w->background);
+        return;
+    }
+    w->mode = w->visualMode = FixedPixmap;
     setPixmap(w, &pixmap);
     zeltk::applyBackground(this);
     update();
@@ -279,6 +289,8 @@ void QWidget::setBackgroundOrigin(BackgroundOrigin origin)
     if (origin == w->origin)
         return;
     w->origin = origin;
+    w->plainBackground = false;
+    zeltk::applyBackground(this);
     update();
 }
 
@@ -317,8 +329,8 @@ void QWidget::setFont(const QFont& font)
 
 void QWidget::unsetFont()
 {
+    setFont(inheritedFont(this));
     w->ownFont = false;
-    changeFont(this, inheritedFont(this));
 }
 
 void QWidget::fontChange(const QFont&)

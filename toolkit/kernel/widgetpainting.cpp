@@ -19,28 +19,6 @@ namespace x11 = zeltk::x11;
 namespace
 {
 
-// The event is visible to painters while it is delivered, so that they clip to it.
-void deliverPaint(QWidget* widget, const QRegion& region, const QRect& rect, bool erased)
-{
-    WidgetData* data = zeltk::dataOf(widget);
-    const QGuardedPtr<QWidget> alive(widget);
-    const bool outer = data->painting;
-    const QRegion outerRegion = data->paintRegion;
-    data->painting = true;
-    data->paintRegion = region;
-    WidgetAccess::setState(widget, Qt::WState_InPaintEvent);
-    QPaintEvent event(region, rect, erased);
-    QApplication::sendEvent(widget, &event);
-    if (alive.isNull())
-        return;
-    if (widget->paintingActive())
-        qWarning("QWidget: a painter is still open at the end of the paint event of %s", widget->name());
-    data->painting = outer;
-    data->paintRegion = outerRegion;
-    if (!outer)
-        WidgetAccess::clearState(widget, Qt::WState_InPaintEvent);
-}
-
 bool paintsItself(const QWidget* widget)
 {
     return widget->isVisible() && widget->isUpdatesEnabled() && !widget->isDesktop();
@@ -49,7 +27,8 @@ bool paintsItself(const QWidget* widget)
 // The server paints pixmaps from the window's own corner only.
 bool erasesByPainter(const WidgetData* data)
 {
-    return data->backgroundPixmap && data->origin != QWidget::WidgetOrigin;
+    return data->backgroundPixmap && !data->backgroundPixmap->isNull() &&
+           data->origin != QWidget::WidgetOrigin;
 }
 
 void eraseRegion(QWidget* widget, const QRegion& region)
@@ -77,7 +56,7 @@ void paintState(const QPaintDevice* device, const QWidget* widget, zeltk::Widget
     const WidgetData* data = zeltk::dataOf(widget);
     state->font = widget->font();
     state->foreground = widget->foregroundColor();
-    state->background = widget->eraseColor();
+    state->background = widget->paletteBackgroundColor();
     state->brushOrigin = -widget->backgroundOffset();
     state->unclipped = widget->testWFlags(Qt::WPaintUnclipped);
     state->painting = data->painting;
@@ -88,7 +67,7 @@ void paintState(const QPaintDevice* device, const QWidget* widget, zeltk::Widget
 void fillFrom(QPixmap* pixmap, const QWidget* widget, int x, int y)
 {
     const WidgetData* data = zeltk::dataOf(widget);
-    if (!data->backgroundPixmap) {
+    if (!data->backgroundPixmap || data->backgroundPixmap->isNull()) {
         pixmap->fill(data->background);
         return;
     }
@@ -107,6 +86,29 @@ void connectPainting()
     fillFromWidget = fillFrom;
 }
 
+// The event is visible to painters while it is delivered, so that they clip to it.
+void deliverPaint(QWidget* widget, const QRegion& region, bool erased)
+{
+    WidgetData* data = dataOf(widget);
+    const QGuardedPtr<QWidget> alive(widget);
+    const bool outer = data->painting;
+    const QRegion outerRegion = data->paintRegion;
+    data->painting = true;
+    data->paintRegion = region;
+    WidgetAccess::setState(widget, Qt::WState_InPaintEvent);
+    // The smallest rectangle a paint event speaks of is one pixel.
+    QPaintEvent event(region, region.isEmpty() ? QRect(0, 0, 1, 1) : region.boundingRect(), erased);
+    QApplication::sendEvent(widget, &event);
+    if (alive.isNull())
+        return;
+    if (widget->paintingActive())
+        qWarning("QWidget: a painter is still open at the end of the paint event of %s", widget->name());
+    data->painting = outer;
+    data->paintRegion = outerRegion;
+    if (!outer)
+        WidgetAccess::clearState(widget, Qt::WState_InPaintEvent);
+}
+
 void windowExposed(QWidget* widget, const QRect& rect, int more)
 {
     WidgetData* data = dataOf(widget);
@@ -121,7 +123,7 @@ void windowExposed(QWidget* widget, const QRect& rect, int more)
         return;
     if (erased && erasesByPainter(data))
         eraseRegion(widget, region);
-    deliverPaint(widget, region, region.boundingRect(), erased);
+    deliverPaint(widget, region, erased);
 }
 
 // A queued update of nothing that can be seen still comes as an event.
@@ -132,7 +134,7 @@ void repaintPosted(QWidget* widget, const QRegion& region, bool erase)
     const QRegion inside = region & QRegion(widget->rect());
     if (erase)
         eraseRegion(widget, inside);
-    deliverPaint(widget, inside, inside.isEmpty() ? QRect(0, 0, 1, 1) : inside.boundingRect(), erase);
+    deliverPaint(widget, inside, erase);
 }
 
 } // namespace zeltk
@@ -189,7 +191,7 @@ void QWidget::repaint(const QRegion& region, bool erase)
         return;
     if (erase)
         eraseRegion(this, inside);
-    deliverPaint(this, inside, inside.boundingRect(), erase);
+    zeltk::deliverPaint(this, inside, erase);
 }
 
 void QWidget::erase()
@@ -234,16 +236,3 @@ void QWidget::drawText(int x, int y, const QString& text)
 }
 
 void QWidget::paintEvent(QPaintEvent*) {}
-
-// A picture of the widget and of its children.
-QPixmap QPixmap::grabWidget(QWidget* widget, int x, int y, int w, int h)
-{
-    if (!widget)
-        return QPixmap();
-    if (!widget->isVisible()) {
-        qWarning("QPixmap::grabWidget: the widget %s is not visible", widget->name());
-        return QPixmap();
-    }
-    return grabWindow(widget->winId(), x, y, w < 0 ? widget->width() - x : w,
-                      h < 0 ? widget->height() - y : h);
-}

@@ -1,19 +1,12 @@
-// QWidget: showing, hiding, closing, stacking, changing parents.
-#include <qwidget.h>
-
+// QWidget: showing, hiding, closing, and moving to another parent.
 #include "kernel/applicationprivate.h"
-#include "kernel/objecttree.h"
 #include "kernel/widgetdata.h"
 #include "x11/window.h"
-#include "x11/wmhints.h"
 
 #include <qapplication.h>
 #include <qevent.h>
 #include <qguardedptr.h>
 
-#include <algorithm>
-
-using zeltk::childWidgets;
 using zeltk::WidgetAccess;
 using zeltk::WidgetData;
 namespace x11 = zeltk::x11;
@@ -21,42 +14,29 @@ namespace x11 = zeltk::x11;
 namespace
 {
 
-void sendShow(QWidget* widget)
+void deliver(QWidget* widget, QEvent::Type type)
 {
-    QShowEvent event;
-    QApplication::sendEvent(widget, &event);
+    QApplication::sendPostedEvents(widget, type);
 }
 
-void sendPlain(QWidget* widget, QEvent::Type type)
+// A window takes the size it likes best, unless the program has chosen one.
+void takeFirstSize(QWidget* window)
 {
-    QEvent event(type);
-    QApplication::sendEvent(widget, &event);
+    if (!window->testWState(Qt::WState_Resized) && window->sizeHint().isValid())
+        window->adjustSize();
 }
 
-void prepareToShow(QWidget* widget)
-{
-    QApplication::sendPostedEvents(widget, QEvent::ChildInserted);
-    widget->polish();
-    zeltk::deliverPendingGeometry(widget);
-}
-
-// Children come to be visible before their parents, so that all appears at once.
 void showChildren(QWidget* widget)
 {
-    for (QWidget* child : childWidgets(widget)) {
-        if (child->isTopLevel() || child->isHidden() || child->isVisible())
-            continue;
-        prepareToShow(child);
-        showChildren(child);
-        WidgetAccess::setState(child, Qt::WState_Visible);
-        x11::mapWindow(child->winId());
-        sendShow(child);
-    }
+    for (QWidget* child : zeltk::childWidgets(widget))
+        if (!child->isTopLevel() && !child->isHidden())
+            child->show();
 }
 
+// Windows inside a hidden one need not be unmapped; they reappear with it.
 void hideChildren(QWidget* widget)
 {
-    for (QWidget* child : childWidgets(widget)) {
+    for (QWidget* child : zeltk::childWidgets(widget)) {
         if (child->isTopLevel() || !child->isVisible())
             continue;
         WidgetAccess::clearState(child, Qt::WState_Visible);
@@ -67,30 +47,63 @@ void hideChildren(QWidget* widget)
     }
 }
 
-void mapTopLevel(QWidget* window)
+void sendPlain(QWidget* widget, QEvent::Type type)
 {
-    zeltk::applySizeHints(window);
-    if (window->isPopup())
-        x11::raiseWindow(window->winId());
-    if (window->isModal())
-        x11::setModal(window->winId(), true);
-    x11::mapWindow(window->winId());
-    if (window->isPopup())
-        zeltk::popupShown(window);
-    if (window->isModal())
-        zeltk::modalShown(window);
+    QEvent event(type);
+    QApplication::sendEvent(widget, &event);
 }
 
-void unmapTopLevel(QWidget* window)
+void showWindow(QWidget* widget)
 {
-    if (window->isPopup())
-        zeltk::popupHidden(window);
-    if (window->isModal())
-        zeltk::modalHidden(window);
-    if (window->testWFlags(Qt::WType_Popup | Qt::WX11BypassWM))
-        x11::unmapWindow(window->winId());
+    WidgetData* data = zeltk::dataOf(widget);
+    if (data->mapped)
+        return;
+    data->mapped = true;
+    if (!widget->isTopLevel()) {
+        x11::mapWindow(widget->winId());
+        return;
+    }
+    if (data->described)
+        zeltk::applySizeHints(widget);
     else
-        x11::withdrawWindow(window->winId());
+        zeltk::describeWindow(widget);
+    if (widget->isPopup())
+        x11::raiseWindow(widget->winId());
+    x11::mapWindow(widget->winId());
+    if (widget->isPopup())
+        zeltk::popupShown(widget);
+    else if (widget->isModal())
+        zeltk::modalShown(widget);
+}
+
+void hideWindow(QWidget* widget)
+{
+    WidgetData* data = zeltk::dataOf(widget);
+    if (!data->mapped)
+        return;
+    data->mapped = false;
+    data->exposed = QRegion();
+    if (widget->isTopLevel() && !widget->testWFlags(Qt::WType_Popup | Qt::WX11BypassWM))
+        x11::withdrawWindow(widget->winId());
+    else
+        x11::unmapWindow(widget->winId());
+}
+
+void leavePopupOrModal(QWidget* widget)
+{
+    if (widget->isPopup())
+        zeltk::popupHidden(widget);
+    else if (widget->isTopLevel() && widget->isModal())
+        zeltk::modalHidden(widget);
+}
+
+// What was visible inside a widget that leaves its place.
+void forgetVisible(QWidget* widget)
+{
+    WidgetAccess::clearState(widget, Qt::WState_Visible);
+    for (QWidget* child : zeltk::childWidgets(widget))
+        if (!child->isTopLevel())
+            forgetVisible(child);
 }
 
 } // namespace
@@ -100,176 +113,157 @@ void QWidget::show()
     if (isVisible() || isDesktop())
         return;
     const bool wasHidden = isHidden();
-    w->state &= ~WState_ForceHide;
-    if (!isTopLevel() && !parentWidget()->isVisible()) {
+    clearWState(WState_ForceHide);
+    w->selfHidden = false;
+    QWidget* container = isTopLevel() ? 0 : parentWidget();
+    if (wasHidden)
+        updateGeometry();
+    if (container && !container->isVisible()) {
         if (wasHidden)
             sendPlain(this, QEvent::ShowToParent);
         return;
     }
-    prepareToShow(this);
+    deliver(this, QEvent::ChildInserted);
+    constPolish();
+    if (isTopLevel())
+        takeFirstSize(this);
+    deliver(this, QEvent::Move);
+    deliver(this, QEvent::Resize);
+    if (container)
+        deliver(container, QEvent::ChildInserted);
+    setWState(WState_Visible);
     showChildren(this);
-    if (isTopLevel()) {
-        w->state |= WState_Visible;
-        mapTopLevel(this);
-    } else {
-        QApplication::sendPostedEvents(parentWidget(), QEvent::ChildInserted);
-        w->state |= WState_Visible;
-        x11::mapWindow(winId());
-        updateGeometry();
-    }
-    sendShow(this);
+    QShowEvent event;
+    QApplication::sendEvent(this, &event);
+    if (isVisible())
+        showWindow(this);
 }
 
 void QWidget::hide()
 {
+    if (isDesktop())
+        return;
     const bool wasHidden = isHidden();
-    w->state |= WState_ForceHide;
+    setWState(WState_ForceHide);
+    w->selfHidden = true;
     if (!isVisible()) {
         if (!wasHidden && !isTopLevel())
             sendPlain(this, QEvent::HideToParent);
+        hideWindow(this);
         return;
     }
-    w->state &= ~WState_Visible;
-    if (isTopLevel())
-        unmapTopLevel(this);
-    else
-        x11::unmapWindow(winId());
+    clearWState(WState_Visible);
+    leavePopupOrModal(this);
     zeltk::widgetHidden(this);
-    if (!isTopLevel() && parentWidget() && parentWidget()->isVisible())
-        QApplication::postEvent(parentWidget(), new QEvent(QEvent::LayoutHint));
+    hideWindow(this);
     QHideEvent event;
     QApplication::sendEvent(this, &event);
     hideChildren(this);
-}
-
-void QWidget::setShown(bool enable)
-{
-    if (enable)
-        show();
-    else
-        hide();
-}
-
-void QWidget::setHidden(bool enable)
-{
-    setShown(!enable);
-}
-
-bool QWidget::isVisibleTo(QWidget* ancestor) const
-{
-    for (const QWidget* widget = this; widget && widget != ancestor; widget = widget->parentWidget()) {
-        if (widget->isHidden())
-            return false;
-        if (widget->isTopLevel())
-            break;
-    }
-    return true;
+    if (!isTopLevel() && parentWidget())
+        QApplication::postEvent(parentWidget(), new QEvent(QEvent::LayoutHint));
 }
 
 void QWidget::polish()
 {
     if (testWState(WState_Polished))
         return;
-    w->state |= WState_Polished;
+    setWState(WState_Polished);
+    zeltk::ensureStyled();
     qApp->polish(this);
 }
 
 void QWidget::constPolish() const
 {
-    if (!testWState(WState_Polished))
-        const_cast<QWidget*>(this)->polish();
+    if (!testWState(WState_Polished)) {
+        QWidget* that = const_cast<QWidget*>(this);
+        that->polish();
+        that->setWState(WState_Polished);
+    }
+}
+
+bool QWidget::isVisibleTo(QWidget* ancestor) const
+{
+    const QWidget* widget = this;
+    while (widget && !widget->isHidden() && !widget->isTopLevel() && widget->parentWidget() &&
+           widget->parentWidget() != ancestor)
+        widget = widget->parentWidget();
+    return widget && !widget->isHidden();
+}
+
+void QWidget::setShown(bool show)
+{
+    if (show)
+        this->show();
+    else
+        hide();
+}
+
+void QWidget::setHidden(bool hide)
+{
+    setShown(!hide);
 }
 
 bool QWidget::close()
 {
-    return close(false);
+    const QGuardedPtr<QWidget> alive(this);
+    const bool closed = close(false);
+    if (closed && alive && testWFlags(WDestructiveClose))
+        deleteLater();
+    return closed;
 }
 
-// The window is hidden when its close event is accepted. The last one ends the program, if it asked for that.
 bool QWidget::close(bool alsoDelete)
 {
-    const QGuardedPtr<QWidget> self(this);
-    const bool wasMain = qApp->mainWidget() == this;
+    const QGuardedPtr<QWidget> alive(this);
     QCloseEvent event;
     QApplication::sendEvent(this, &event);
-    if (!event.isAccepted() || self.isNull())
-        return self.isNull();
-    const bool deletes = alsoDelete || testWFlags(WDestructiveClose);
+    if (!alive)
+        return true;
+    if (!event.isAccepted())
+        return false;
+    const bool wasMain = qApp->mainWidget() == this;
     const bool counts = isTopLevel() && !isPopup();
     hide();
-    if (counts && !self.isNull())
+    if (counts && alive)
         zeltk::windowClosed(this, wasMain);
-    if (deletes && !self.isNull())
-        deleteLater();
+    if (alsoDelete && alive)
+        delete this;
     return true;
 }
 
-void QWidget::raise()
+// The server's window lives on, so that all inside it come along; only its place changes.
+void QWidget::reparent(QWidget* parent, WFlags f, const QPoint& pos, bool showIt)
 {
-    zeltk::moveToFront(this);
-    x11::raiseWindow(winId());
-}
-
-void QWidget::lower()
-{
-    zeltk::moveToBack(this);
-    x11::lowerWindow(winId());
-}
-
-void QWidget::stackUnder(QWidget* sibling)
-{
-    if (!sibling || isTopLevel() || sibling->isTopLevel() || parentWidget() != sibling->parentWidget() ||
-        sibling == this)
-        return;
-    zeltk::moveBefore(this, sibling);
-    x11::stackBelow(winId(), sibling->winId());
-}
-
-void QWidget::reparent(QWidget* parent, const QPoint& p, bool showIt)
-{
-    reparent(parent, getWFlags() & ~static_cast<WFlags>(WType_Mask), p, showIt);
-}
-
-// The size stays; the place is a new one.
-void QWidget::reparent(QWidget* parent, WFlags f, const QPoint& p, bool showIt)
-{
-    const QSize oldSize = size();
-    const bool wasEnabled = isEnabled();
+    const QSize keptSize = size();
     if (isVisible()) {
-        w->state &= ~WState_Visible;
-        if (isTopLevel())
-            unmapTopLevel(this);
-        else
-            x11::unmapWindow(winId());
-        zeltk::widgetHidden(this);
-        for (QWidget* child : childWidgets(this))
+        clearWState(WState_Visible);
+        leavePopupOrModal(this);
+        for (QWidget* child : zeltk::childWidgets(this))
             if (!child->isTopLevel())
-                WidgetAccess::clearState(child, WState_Visible);
+                forgetVisible(child);
     }
+    zeltk::widgetHidden(this);
+    hideWindow(this);
     zeltk::leaveTabOrder(this);
-    if (this->parent())
-        this->parent()->removeChild(this);
-    const bool wasTopLevel = isTopLevel();
-    w->flags = f & ~static_cast<WFlags>(WType_TopLevel);
-    if (!parent || (f & (WType_Popup | WType_Dialog | WType_TopLevel)))
-        w->flags |= WType_TopLevel;
+    if (QObject* old = this->parent())
+        old->removeChild(this);
     if (parent)
         parent->insertChild(this);
-    zeltk::moveWindowTo(this, parent, wasTopLevel);
-    w->state |= WState_ForceHide;
-    setGeometry(p.x(), p.y(), oldSize.width(), oldSize.height());
+    zeltk::rehangWindow(this, f);
+    if (isTopLevel() || w->selfHidden || parent->isVisible())
+        setWState(WState_ForceHide);
+    else
+        clearWState(WState_ForceHide);
     zeltk::joinTabOrder(this);
-    zeltk::setEnabledByParent(this,
-                              !(!isTopLevel() && !parent->isEnabled()) && (wasEnabled || !w->selfDisabled));
+    zeltk::refreshEnabled(this);
     zeltk::inheritLook(this);
-    zeltk::applyBackground(this);
-    if (showIt) {
+    setGeometry(pos.x(), pos.y(), keptSize.width(), keptSize.height());
+    if (showIt)
         show();
-    } else {
-        w->moved = w->resized = false;
-        QApplication::postEvent(this, new QMoveEvent(pos(), w->oldPos));
-        QApplication::postEvent(this, new QResizeEvent(size(), w->oldSize));
-    }
-    QEvent event(QEvent::Reparent);
-    QApplication::sendEvent(this, &event);
+    sendPlain(this, QEvent::Reparent);
+}
+
+void QWidget::reparent(QWidget* parent, const QPoint& pos, bool showIt)
+{
+    reparent(parent, getWFlags() & ~static_cast<WFlags>(WType_Mask), pos, showIt);
 }

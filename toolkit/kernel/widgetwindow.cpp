@@ -1,8 +1,5 @@
-// QWidget: what a window tells its window manager.
-#include <qwidget.h>
-
+// QWidget: what a window tells the window manager.
 #include "kernel/widgetdata.h"
-#include "tools/unicode.h"
 #include "x11/window.h"
 #include "x11/wmhints.h"
 
@@ -10,23 +7,80 @@
 #include <qbitmap.h>
 #include <qevent.h>
 
-using zeltk::dataOf;
-using zeltk::WidgetData;
-namespace x11 = zeltk::x11;
+#include <string>
 
 namespace
 {
 
-void sendStateChange(QWidget* widget, QEvent::Type type)
+std::string programName()
 {
-    QEvent event(type);
-    QApplication::sendEvent(widget, &event);
+    const char* const path = qApp->argc() > 0 ? qApp->argv()[0] : "";
+    const std::string text(path ? path : "");
+    return text.substr(text.rfind('/') + 1);
 }
 
-// The window to which a dialog belongs.
-const QWidget* ownerOf(const QWidget* window)
+std::string className(std::string name)
 {
-    return window->parentWidget() ? window->parentWidget()->topLevelWidget() : nullptr;
+    if (!name.empty() && name[0] >= 'a' && name[0] <= 'z')
+        name[0] = static_cast<char>(name[0] - 'a' + 'A');
+    return name;
+}
+
+std::string utf8(const QString& text)
+{
+    const QCString bytes = text.utf8();
+    return std::string(bytes.data() ? bytes.data() : "");
+}
+
+void sendTitle(const QWidget* widget)
+{
+    const QString& caption = zeltk::dataOf(widget)->caption;
+    if (caption.isNull())
+        zeltk::x11::setPlainTitle(widget->winId(), programName());
+    else
+        zeltk::x11::setTitle(widget->winId(), utf8(caption));
+}
+
+bool hasFixedSize(const QWidget* widget)
+{
+    return widget->minimumSize() == widget->maximumSize();
+}
+
+void sendDecorations(const QWidget* widget)
+{
+    zeltk::x11::Decorations wanted;
+    const auto has = [widget](Qt::WFlags flag) { return widget->testWFlags(flag) != 0; };
+    wanted.border = !has(Qt::WStyle_NoBorder) && has(Qt::WStyle_NormalBorder | Qt::WStyle_DialogBorder);
+    wanted.title = has(Qt::WStyle_Title);
+    wanted.menu = has(Qt::WStyle_SysMenu);
+    wanted.minimize = has(Qt::WStyle_Minimize);
+    wanted.maximize = has(Qt::WStyle_Maximize);
+    wanted.resizable = !hasFixedSize(widget);
+    wanted.modal = widget->isModal();
+    zeltk::x11::setDecorations(widget->winId(), wanted);
+}
+
+unsigned initialState(const QWidget* widget)
+{
+    unsigned bits = 0;
+    if (widget->isModal())
+        bits |= zeltk::x11::StateModal;
+    if (widget->isMaximized())
+        bits |= zeltk::x11::StateMaximized;
+    if (widget->isFullScreen())
+        bits |= zeltk::x11::StateFullScreen;
+    if (widget->testWFlags(Qt::WStyle_StaysOnTop))
+        bits |= zeltk::x11::StateAbove;
+    return bits;
+}
+
+// Dialogs without a parent stand above the whole screen's windows.
+void sendOwner(const QWidget* widget)
+{
+    if (widget->parentWidget())
+        zeltk::x11::setTransientFor(widget->winId(), widget->parentWidget()->topLevelWidget()->winId());
+    else if (widget->isDialog() || widget->testWFlags(Qt::WStyle_Tool))
+        zeltk::x11::setTransientFor(widget->winId(), zeltk::x11::rootWindow());
 }
 
 } // namespace
@@ -34,47 +88,60 @@ const QWidget* ownerOf(const QWidget* window)
 namespace zeltk
 {
 
-void announce(QWidget* window)
+void describeWindow(QWidget* widget)
 {
-    if (window->testWFlags(Qt::WType_Popup | Qt::WX11BypassWM | Qt::WType_Desktop))
+    WidgetData* data = dataOf(widget);
+    data->described = true;
+    applySizeHints(widget);
+    if (widget->isPopup())
         return;
-    std::string program = qApp->name("");
-    std::string className = program;
-    if (!className.empty() && className[0] >= 'a' && className[0] <= 'z')
-        className[0] = static_cast<char>(className[0] - 'a' + 'A');
-    x11::announceWindow(window->winId(), program, className);
-    x11::setTitle(window->winId(), program);
-    x11::setWindowType(window->winId(),
-                       window->isDialog() ? x11::WindowType::Dialog : x11::WindowType::Normal);
-    const QWidget* owner = ownerOf(window);
-    if (owner && !owner->isDesktop())
-        x11::setTransientFor(window->winId(), owner->winId());
-    if (!dataOf(window)->caption.isNull())
-        x11::setTitle(window->winId(), toUtf8(dataOf(window)->caption));
+    const x11::XId window = widget->winId();
+    const std::string name = programName();
+    x11::setWindowIdentity(window, name, className(name), widget->testWFlags(Qt::WStyle_ContextHelp) != 0);
+    x11::setWindowKind(window, widget->isDialog()                    ? x11::WindowKind::Dialog
+                               : widget->testWFlags(Qt::WStyle_Tool) ? x11::WindowKind::Tool
+                                                                     : x11::WindowKind::Normal);
+    applyWindowHints(widget);
+    sendOwner(widget);
+    sendDecorations(widget);
+    sendTitle(widget);
+    if (!data->iconText.isNull())
+        x11::setIconName(window, utf8(data->iconText));
+    if (const unsigned bits = initialState(widget))
+        x11::setInitialState(window, bits);
 }
 
-void applySizeHints(QWidget* window)
+void applySizeHints(QWidget* widget)
 {
-    const WidgetData* data = dataOf(window);
-    x11::setSizeHints(window->winId(), {data->frame.x(), data->frame.y(), data->placed, data->rect.width(),
-                                        data->rect.height(), data->minimum.width(), data->minimum.height(),
-                                        data->maximum.width(), data->maximum.height(), data->base.width(),
-                                        data->base.height(), data->step.width(), data->step.height()});
+    const WidgetData* data = dataOf(widget);
+    if (!data->described)
+        return;
+    const auto limit = [](int value) { return value < QWIDGETSIZE_MAX ? value : 0; };
+    x11::SizeHints hints;
+    hints.x = widget->x();
+    hints.y = widget->y();
+    hints.width = data->rect.width();
+    hints.height = data->rect.height();
+    hints.userPosition = data->placed;
+    hints.userSize = widget->testWState(Qt::WState_Resized) != 0;
+    hints.minimumWidth = data->minimum.width();
+    hints.minimumHeight = data->minimum.height();
+    const bool limited = limit(data->maximum.width()) || limit(data->maximum.height());
+    hints.maximumWidth = limited ? data->maximum.width() : 0;
+    hints.maximumHeight = limited ? data->maximum.height() : 0;
+    hints.widthIncrement = data->step.width();
+    hints.heightIncrement = data->step.height();
+    hints.baseWidth = data->base.width();
+    hints.baseHeight = data->base.height();
+    x11::setSizeHints(widget->winId(), hints);
 }
 
-// The frame is what lies between the window and the root's child that holds it; its size is learnt from where
-// the window has come to lie.
-void windowReparented(QWidget* window)
+void applyWindowHints(QWidget* widget)
 {
-    int x = 0;
-    int y = 0;
-    WidgetData* data = dataOf(window);
-    if (!x11::rootPosition(window->winId(), &x, &y))
-        return;
-    const QPoint corner = data->frame.topLeft();
-    const QPoint inside = QPoint(x, y) - corner;
-    data->rect.moveTopLeft(QPoint(x, y));
-    data->frame = QRect(corner, data->rect.size() + QSize(2 * inside.x(), inside.y() + inside.x()));
+    const WidgetData* data = dataOf(widget);
+    const QBitmap* const mask = data->icon ? data->icon->mask() : nullptr;
+    x11::setWindowHints(widget->winId(), (data->windowState & Qt::WindowMinimized) != 0,
+                        data->icon ? data->icon->handle() : 0, mask ? mask->handle() : 0, 0);
 }
 
 } // namespace zeltk
@@ -86,12 +153,13 @@ QString QWidget::caption() const
 
 void QWidget::setCaption(const QString& caption)
 {
-    if (w->caption == caption && !w->caption.isNull())
+    if (!isTopLevel() || (caption == w->caption && caption.isNull() == w->caption.isNull()))
         return;
     w->caption = caption;
-    if (isTopLevel() && !isDesktop())
-        x11::setTitle(winId(), zeltk::toUtf8(caption));
-    sendStateChange(this, QEvent::CaptionChange);
+    if (w->described)
+        sendTitle(this);
+    QEvent event(QEvent::CaptionChange);
+    QApplication::sendEvent(this, &event);
 }
 
 const QPixmap* QWidget::icon() const
@@ -101,11 +169,14 @@ const QPixmap* QWidget::icon() const
 
 void QWidget::setIcon(const QPixmap& icon)
 {
+    if (!isTopLevel())
+        return;
     delete w->icon;
-    w->icon = icon.isNull() ? nullptr : new QPixmap(icon);
-    if (isTopLevel() && !isDesktop())
-        x11::setIconPixmap(winId(), icon.handle(), icon.mask() ? icon.mask()->handle() : 0);
-    sendStateChange(this, QEvent::IconChange);
+    w->icon = icon.isNull() ? 0 : new QPixmap(icon);
+    if (w->described)
+        zeltk::applyWindowHints(this);
+    QEvent event(QEvent::IconChange);
+    QApplication::sendEvent(this, &event);
 }
 
 QString QWidget::iconText() const
@@ -115,92 +186,9 @@ QString QWidget::iconText() const
 
 void QWidget::setIconText(const QString& text)
 {
-    w->iconText = text;
-    if (isTopLevel() && !isDesktop())
-        x11::setIconTitle(winId(), zeltk::toUtf8(text));
-}
-
-void QWidget::setMask(const QRegion& region)
-{
-    std::vector<x11::ClipRect> rects;
-    const QMemArray<QRect> parts = region.rects();
-    for (uint i = 0; i < parts.size(); ++i)
-        rects.push_back({parts.at(i).x(), parts.at(i).y(), parts.at(i).width(), parts.at(i).height()});
-    x11::setShape(winId(), &rects);
-}
-
-void QWidget::clearMask()
-{
-    x11::setShape(winId(), nullptr);
-}
-
-bool QWidget::isMinimized() const
-{
-    return w->minimized;
-}
-
-bool QWidget::isMaximized() const
-{
-    return w->maximized;
-}
-
-bool QWidget::isFullScreen() const
-{
-    return w->fullScreen;
-}
-
-void QWidget::iconify()
-{
-    showMinimized();
-}
-
-void QWidget::showMinimized()
-{
-    if (!isTopLevel()) {
-        hide();
-        return;
-    }
-    w->minimized = true;
-    show();
-    x11::iconify(winId());
-    sendStateChange(this, QEvent::WindowStateChange);
-}
-
-void QWidget::showMaximized()
-{
-    if (isTopLevel())
-        x11::requestState(winId(), isVisible(), "_NET_WM_STATE_MAXIMIZED_VERT",
-                          "_NET_WM_STATE_MAXIMIZED_HORZ", true);
-    w->maximized = true;
-    show();
-    sendStateChange(this, QEvent::WindowStateChange);
-}
-
-void QWidget::showFullScreen()
-{
     if (!isTopLevel())
         return;
-    w->normalRect = geometry();
-    x11::requestState(winId(), isVisible(), "_NET_WM_STATE_FULLSCREEN", nullptr, true);
-    w->fullScreen = true;
-    show();
-    raise();
-    setActiveWindow();
-    sendStateChange(this, QEvent::WindowStateChange);
-}
-
-void QWidget::showNormal()
-{
-    if (isTopLevel() && w->maximized)
-        x11::requestState(winId(), isVisible(), "_NET_WM_STATE_MAXIMIZED_VERT",
-                          "_NET_WM_STATE_MAXIMIZED_HORZ", false);
-    if (isTopLevel() && w->fullScreen)
-        x11::requestState(winId(), isVisible(), "_NET_WM_STATE_FULLSCREEN", nullptr, false);
-    const bool changed = w->minimized || w->maximized || w->fullScreen;
-    w->minimized = w->maximized = w->fullScreen = false;
-    if (isTopLevel() && isVisible())
-        x11::mapWindow(winId());
-    show();
-    if (changed)
-        sendStateChange(this, QEvent::WindowStateChange);
+    w->iconText = text;
+    if (w->described)
+        zeltk::x11::setIconName(winId(), utf8(text));
 }

@@ -56,6 +56,11 @@ void withdrawWindow(XId window)
     XWithdrawWindow(display(), window, screen());
 }
 
+void iconifyWindow(XId window)
+{
+    XIconifyWindow(display(), window, screen());
+}
+
 void moveWindow(XId window, int x, int y)
 {
     XMoveWindow(display(), window, x, y);
@@ -71,9 +76,19 @@ void moveResizeWindow(XId window, int x, int y, int width, int height)
     XMoveResizeWindow(display(), window, x, y, static_cast<unsigned>(width), static_cast<unsigned>(height));
 }
 
-void reparentWindow(XId window, XId parent, int x, int y)
+void rehangWindow(XId window, XId parent, int x, int y, bool topLevel, bool popup)
 {
+    XSetWindowAttributes attributes;
+    attributes.event_mask = commonEvents | (topLevel ? topLevelEvents : 0);
+    attributes.override_redirect = popup;
+    attributes.save_under = popup;
+    XChangeWindowAttributes(display(), window, CWEventMask | CWOverrideRedirect | CWSaveUnder, &attributes);
     XReparentWindow(display(), window, parent, x, y);
+}
+
+unsigned long nextSerial()
+{
+    return NextRequest(display());
 }
 
 void raiseWindow(XId window)
@@ -156,6 +171,37 @@ bool rootPosition(XId window, int* x, int* y)
 {
     Window child;
     return XTranslateCoordinates(display(), window, rootWindow(), 0, 0, x, y, &child) != 0;
+}
+
+bool framePlace(XId window, FramePlace* place)
+{
+    XId inner = window;
+    while (true) {
+        Window root = 0, parent = 0, *inside = nullptr;
+        unsigned count = 0;
+        if (!XQueryTree(display(), inner, &root, &parent, &inside, &count))
+            return false;
+        if (inside)
+            XFree(inside);
+        if (parent == root || parent == XNone)
+            break;
+        inner = parent;
+    }
+    Window root = 0, child = 0;
+    unsigned width = 0, height = 0, border = 0, depth = 0;
+    int x = 0, y = 0;
+    if (!XGetGeometry(display(), window, &root, &x, &y, &width, &height, &border, &depth))
+        return false;
+    if (!XTranslateCoordinates(display(), window, root, 0, 0, &x, &y, &child))
+        return false;
+    place->client = {x, y, static_cast<int>(width), static_cast<int>(height)};
+    place->frame = place->client;
+    if (inner == window)
+        return true;
+    if (!XGetGeometry(display(), inner, &root, &x, &y, &width, &height, &border, &depth))
+        return false;
+    place->frame = {x, y, static_cast<int>(width + 2 * border), static_cast<int>(height + 2 * border)};
+    return true;
 }
 
 XId windowAt(int x, int y)

@@ -20,10 +20,14 @@ void mapWindow(XId window);
 void unmapWindow(XId window);
 // A top-level window goes away; its window manager is told.
 void withdrawWindow(XId window);
+void iconifyWindow(XId window);
 void moveWindow(XId window, int x, int y);
 void resizeWindow(XId window, int width, int height);
 void moveResizeWindow(XId window, int x, int y, int width, int height);
-void reparentWindow(XId window, XId parent, int x, int y);
+// Puts an unmapped window elsewhere, as one of that kind.
+void rehangWindow(XId window, XId parent, int x, int y, bool topLevel, bool popup);
+// Number of the next request, which the server repeats in the events that answer it.
+unsigned long nextSerial();
 void raiseWindow(XId window);
 void lowerWindow(XId window);
 // Right below the sibling.
@@ -42,6 +46,20 @@ void setShape(XId window, const std::vector<ClipRect>* shape);
 
 // Asks the server for the place of the window's corner on the screen.
 bool rootPosition(XId window, int* x, int* y);
+
+struct Box {
+    int x;
+    int y;
+    int width;
+    int height;
+};
+// The window on the screen, and the window right inside the root that holds it: the window manager's frame,
+// or the window itself. Waits for the server.
+struct FramePlace {
+    Box client;
+    Box frame;
+};
+bool framePlace(XId window, FramePlace* place);
 // The innermost window at a place of the screen, 0 for the root.
 XId windowAt(int x, int y);
 

@@ -1,10 +1,12 @@
-// What window managers read.
+// What windows tell the window manager: the properties of ICCCM and of the desktop specification.
 #include "x11/wmhints.h"
 
 #include "x11/xlib.h"
 
-#include <cstring>
 #include <unistd.h>
+
+#include <algorithm>
+#include <vector>
 
 namespace zeltk
 {
@@ -14,168 +16,208 @@ namespace x11
 namespace
 {
 
-void setText(XId window, const char* property, const char* type, const std::string& text)
+void setText(XId window, XId property, XId type, const std::string& text)
 {
-    XChangeProperty(display(), window, atom(property), atom(type), 8, PropModeReplace,
+    XChangeProperty(display(), window, property, type, 8, PropModeReplace,
                     reinterpret_cast<const unsigned char*>(text.data()), static_cast<int>(text.size()));
 }
 
-void setAtoms(XId window, const char* property, const Atom* atoms, int count)
+void setLongs(XId window, const char* property, XId type, const std::vector<long>& values)
 {
-    XChangeProperty(display(), window, atom(property), XA_ATOM, 32, PropModeReplace,
-                    reinterpret_cast<const unsigned char*>(atoms), count);
+    XChangeProperty(display(), window, atom(property), type, 32, PropModeReplace,
+                    reinterpret_cast<const unsigned char*>(values.data()), static_cast<int>(values.size()));
 }
 
-void sendToRoot(XId window, const char* type, long a, long b, long c)
+void sendToRoot(XId window, const char* type, const std::vector<long>& values)
 {
-    XEvent event;
-    std::memset(&event, 0, sizeof event);
+    XEvent event = XEvent();
     event.xclient.type = ClientMessage;
     event.xclient.window = window;
     event.xclient.message_type = atom(type);
     event.xclient.format = 32;
-    event.xclient.data.l[0] = a;
-    event.xclient.data.l[1] = b;
-    event.xclient.data.l[2] = c;
-    XSendEvent(display(), rootWindow(), False, SubstructureNotifyMask | SubstructureRedirectMask, &event);
+    std::copy(values.begin(), values.end(), event.xclient.data.l);
+    XSendEvent(display(), rootWindow(), False, SubstructureRedirectMask | SubstructureNotifyMask, &event);
+}
+
+// For window managers that do not know UTF-8: Latin-1 as far as it goes, else compound text.
+void setOldText(XId window, XId property, const std::string& utf8)
+{
+    char* list[] = {const_cast<char*>(utf8.c_str())};
+    XTextProperty text = XTextProperty();
+    if (Xutf8TextListToTextProperty(display(), list, 1, XStdICCTextStyle, &text) < 0) {
+        XDeleteProperty(display(), window, property);
+        return;
+    }
+    XSetTextProperty(display(), window, &text, property);
+    XFree(text.value);
+}
+
+std::vector<long> stateAtoms(unsigned bits)
+{
+    std::vector<long> atoms;
+    const auto add = [&](const char* name) { atoms.push_back(static_cast<long>(atom(name))); };
+    if (bits & StateModal)
+        add("_NET_WM_STATE_MODAL");
+    if (bits & StateMaximized) {
+        add("_NET_WM_STATE_MAXIMIZED_HORZ");
+        add("_NET_WM_STATE_MAXIMIZED_VERT");
+    }
+    if (bits & StateFullScreen)
+        add("_NET_WM_STATE_FULLSCREEN");
+    if (bits & StateAbove)
+        add("_NET_WM_STATE_ABOVE");
+    return atoms;
 }
 
 } // namespace
 
-void announceWindow(XId window, const std::string& instanceName, const std::string& className)
+void setWindowIdentity(XId window, const std::string& name, const std::string& className, bool contextHelp)
 {
-    const Atom protocols[] = {atom("WM_DELETE_WINDOW"), atom("WM_TAKE_FOCUS"), atom("_NET_WM_PING")};
-    setAtoms(window, "WM_PROTOCOLS", protocols, 3);
-    setText(window, "WM_CLASS", "STRING", instanceName + '\0' + className + '\0');
-    const long pid = getpid();
-    XChangeProperty(display(), window, atom("_NET_WM_PID"), XA_CARDINAL, 32, PropModeReplace,
-                    reinterpret_cast<const unsigned char*>(&pid), 1);
+    std::vector<long> protocols;
+    for (const char* protocol : {"WM_DELETE_WINDOW", "WM_TAKE_FOCUS", "_NET_WM_PING"})
+        protocols.push_back(static_cast<long>(atom(protocol)));
+    if (contextHelp)
+        protocols.push_back(static_cast<long>(atom("_NET_WM_CONTEXT_HELP")));
+    setLongs(window, "WM_PROTOCOLS", XA_ATOM, protocols);
+    setText(window, XA_WM_CLASS, XA_STRING, name + '\0' + className + '\0');
+    setLongs(window, "_NET_WM_PID", XA_CARDINAL, {static_cast<long>(getpid())});
     char host[256] = "";
     if (gethostname(host, sizeof host - 1) == 0)
-        setText(window, "WM_CLIENT_MACHINE", "STRING", host);
-    XWMHints hints;
-    std::memset(&hints, 0, sizeof hints);
-    hints.flags = InputHint | StateHint;
-    hints.input = True;
-    hints.initial_state = NormalState;
-    XSetWMHints(display(), window, &hints);
+        setText(window, XA_WM_CLIENT_MACHINE, XA_STRING, host);
+}
+
+void setPlainTitle(XId window, const std::string& ascii)
+{
+    setText(window, XA_WM_NAME, XA_STRING, ascii);
+    XDeleteProperty(display(), window, atom("_NET_WM_NAME"));
 }
 
 void setTitle(XId window, const std::string& utf8)
 {
-    setText(window, "_NET_WM_NAME", "UTF8_STRING", utf8);
-    char* text = const_cast<char*>(utf8.c_str());
-    XTextProperty property;
-    if (Xutf8TextListToTextProperty(display(), &text, 1, XStdICCTextStyle, &property) >= 0) {
-        XSetWMName(display(), window, &property);
-        XFree(property.value);
-    }
+    setText(window, atom("_NET_WM_NAME"), atom("UTF8_STRING"), utf8);
+    setOldText(window, XA_WM_NAME, utf8);
 }
 
-void setIconTitle(XId window, const std::string& utf8)
+void setIconName(XId window, const std::string& utf8)
 {
-    setText(window, "_NET_WM_ICON_NAME", "UTF8_STRING", utf8);
-    char* text = const_cast<char*>(utf8.c_str());
-    XTextProperty property;
-    if (Xutf8TextListToTextProperty(display(), &text, 1, XStdICCTextStyle, &property) >= 0) {
-        XSetWMIconName(display(), window, &property);
-        XFree(property.value);
-    }
+    setText(window, atom("_NET_WM_ICON_NAME"), atom("UTF8_STRING"), utf8);
+    setOldText(window, XA_WM_ICON_NAME, utf8);
 }
 
-void setIconPixmap(XId window, XId pixmap, XId mask)
+void setSizeHints(XId window, const SizeHints& wanted)
 {
-    XWMHints* hints = XGetWMHints(display(), window);
-    if (!hints)
-        hints = XAllocWMHints();
-    hints->flags = (hints->flags & ~(IconPixmapHint | IconMaskHint)) | (pixmap ? IconPixmapHint : 0) |
-                   (mask ? IconMaskHint : 0);
-    hints->icon_pixmap = pixmap;
-    hints->icon_mask = mask;
-    XSetWMHints(display(), window, hints);
-    XFree(hints);
-}
-
-void setSizeHints(XId window, const SizeHints& h)
-{
-    XSizeHints hints;
-    std::memset(&hints, 0, sizeof hints);
-    hints.flags = USSize | PSize | PWinGravity;
-    hints.width = h.width;
-    hints.height = h.height;
-    hints.win_gravity = NorthWestGravity;
-    if (h.positioned) {
-        hints.flags |= USPosition | PPosition;
-        hints.x = h.x;
-        hints.y = h.y;
-    }
-    if (h.minWidth > 0 || h.minHeight > 0) {
+    XSizeHints hints = XSizeHints();
+    hints.x = wanted.x;
+    hints.y = wanted.y;
+    hints.width = wanted.width;
+    hints.height = wanted.height;
+    hints.flags = wanted.userPosition ? USPosition | PPosition : 0;
+    hints.flags |= wanted.userSize ? USSize | PSize : PSize;
+    if (wanted.minimumWidth > 0 || wanted.minimumHeight > 0) {
         hints.flags |= PMinSize;
-        hints.min_width = h.minWidth;
-        hints.min_height = h.minHeight;
+        hints.min_width = wanted.minimumWidth;
+        hints.min_height = wanted.minimumHeight;
     }
-    if (h.maxWidth < 32767 || h.maxHeight < 32767) {
+    if (wanted.maximumWidth > 0 || wanted.maximumHeight > 0) {
         hints.flags |= PMaxSize;
-        hints.max_width = h.maxWidth;
-        hints.max_height = h.maxHeight;
+        hints.max_width = wanted.maximumWidth;
+        hints.max_height = wanted.maximumHeight;
     }
-    if (h.widthStep > 0 || h.heightStep > 0) {
+    if (wanted.widthIncrement > 0 || wanted.heightIncrement > 0) {
         hints.flags |= PResizeInc | PBaseSize;
-        hints.width_inc = h.widthStep;
-        hints.height_inc = h.heightStep;
-        hints.base_width = h.baseWidth;
-        hints.base_height = h.baseHeight;
+        hints.width_inc = wanted.widthIncrement;
+        hints.height_inc = wanted.heightIncrement;
+        hints.base_width = wanted.baseWidth;
+        hints.base_height = wanted.baseHeight;
     }
+    hints.flags |= PWinGravity;
+    hints.win_gravity = NorthWestGravity;
     XSetWMNormalHints(display(), window, &hints);
 }
 
-void setTransientFor(XId window, XId parent)
+void setWindowHints(XId window, bool startsIconic, XId iconPixmap, XId iconMask, XId groupLeader)
 {
-    if (parent)
-        XSetTransientForHint(display(), window, parent);
-    else
-        XDeleteProperty(display(), window, atom("WM_TRANSIENT_FOR"));
-}
-
-void setWindowType(XId window, WindowType type)
-{
-    const Atom value =
-        atom(type == WindowType::Dialog ? "_NET_WM_WINDOW_TYPE_DIALOG" : "_NET_WM_WINDOW_TYPE_NORMAL");
-    setAtoms(window, "_NET_WM_WINDOW_TYPE", &value, 1);
-}
-
-void setModal(XId window, bool modal)
-{
-    const Atom value = atom("_NET_WM_STATE_MODAL");
-    if (modal)
-        setAtoms(window, "_NET_WM_STATE", &value, 1);
-    else
-        XDeleteProperty(display(), window, atom("_NET_WM_STATE"));
-}
-
-void iconify(XId window)
-{
-    XIconifyWindow(display(), window, screen());
-}
-
-void requestState(XId window, bool mapped, const char* state, const char* otherState, bool on)
-{
-    const Atom first = atom(state);
-    const Atom second = otherState ? atom(otherState) : 0;
-    if (mapped) {
-        sendToRoot(window, "_NET_WM_STATE", on ? 1 : 0, static_cast<long>(first), static_cast<long>(second));
-        return;
+    XWMHints hints = XWMHints();
+    hints.flags = InputHint | StateHint;
+    hints.input = True;
+    hints.initial_state = startsIconic ? IconicState : NormalState;
+    if (iconPixmap) {
+        hints.flags |= IconPixmapHint;
+        hints.icon_pixmap = iconPixmap;
     }
-    const Atom both[] = {first, second};
-    if (on)
-        setAtoms(window, "_NET_WM_STATE", both, otherState ? 2 : 1);
-    else
-        XDeleteProperty(display(), window, atom("_NET_WM_STATE"));
+    if (iconMask) {
+        hints.flags |= IconMaskHint;
+        hints.icon_mask = iconMask;
+    }
+    if (groupLeader) {
+        hints.flags |= WindowGroupHint;
+        hints.window_group = groupLeader;
+    }
+    XSetWMHints(display(), window, &hints);
+}
+
+void setTransientFor(XId window, XId owner)
+{
+    XSetTransientForHint(display(), window, owner);
+}
+
+void setWindowKind(XId window, WindowKind kind)
+{
+    std::vector<long> types;
+    if (kind == WindowKind::Dialog)
+        types.push_back(static_cast<long>(atom("_NET_WM_WINDOW_TYPE_DIALOG")));
+    if (kind == WindowKind::Tool)
+        types.push_back(static_cast<long>(atom("_NET_WM_WINDOW_TYPE_UTILITY")));
+    types.push_back(static_cast<long>(atom("_NET_WM_WINDOW_TYPE_NORMAL")));
+    setLongs(window, "_NET_WM_WINDOW_TYPE", XA_ATOM, types);
+}
+
+// The old but understood property: flags, functions, decorations, input mode, status.
+void setDecorations(XId window, const Decorations& wanted)
+{
+    enum { HasFunctions = 1, HasDecorations = 2, HasInputMode = 4 };
+    enum { Resize = 2, Move = 4, Minimize = 8, Maximize = 16, Close = 32 };
+    enum { Border = 2, ResizeHandles = 4, Title = 8, Menu = 16, MinimizeButton = 32, MaximizeButton = 64 };
+    long functions = Move | Close;
+    long decorations = 0;
+    if (wanted.resizable)
+        functions |= Resize;
+    if (wanted.minimize)
+        functions |= Minimize;
+    if (wanted.maximize)
+        functions |= Maximize;
+    if (wanted.border)
+        decorations |= Border | (wanted.resizable ? ResizeHandles : 0);
+    if (wanted.title)
+        decorations |= Title;
+    if (wanted.menu)
+        decorations |= Menu;
+    if (wanted.minimize)
+        decorations |= MinimizeButton;
+    if (wanted.maximize)
+        decorations |= MaximizeButton;
+    long flags = HasFunctions | HasDecorations;
+    if (wanted.modal)
+        flags |= HasInputMode;
+    setLongs(window, "_MOTIF_WM_HINTS", atom("_MOTIF_WM_HINTS"),
+             {flags, functions, decorations, wanted.modal ? 1 : 0, 0});
+}
+
+void setInitialState(XId window, unsigned bits)
+{
+    setLongs(window, "_NET_WM_STATE", XA_ATOM, stateAtoms(bits));
+}
+
+void requestState(XId window, unsigned bits, bool on)
+{
+    const std::vector<long> atoms = stateAtoms(bits);
+    sendToRoot(window, "_NET_WM_STATE",
+               {on ? 1 : 0, atoms.empty() ? 0 : atoms[0], atoms.size() > 1 ? atoms[1] : 0, 1});
 }
 
 void requestActivation(XId window)
 {
-    sendToRoot(window, "_NET_ACTIVE_WINDOW", 1, CurrentTime, 0);
+    sendToRoot(window, "_NET_ACTIVE_WINDOW", {1, CurrentTime, 0});
 }
 
 bool hasWindowManager()
@@ -194,8 +236,8 @@ bool hasWindowManager()
 
 void answerPing(XId window, unsigned long time)
 {
-    sendToRoot(rootWindow(), "WM_PROTOCOLS", static_cast<long>(atom("_NET_WM_PING")), static_cast<long>(time),
-               static_cast<long>(window));
+    sendToRoot(rootWindow(), "WM_PROTOCOLS",
+               {static_cast<long>(atom("_NET_WM_PING")), static_cast<long>(time), static_cast<long>(window)});
 }
 
 } // namespace x11

@@ -1,4 +1,4 @@
-// What window managers read.
+// What windows tell the window manager.
 #ifndef ZELTK_X11_WMHINTS_H
 #define ZELTK_X11_WMHINTS_H
 
@@ -11,36 +11,57 @@ namespace zeltk
 namespace x11
 {
 
+// Once for each top-level window: protocols, class, process and leader.
+void setWindowIdentity(XId window, const std::string& name, const std::string& className, bool contextHelp);
+
+// A title of plain ASCII that stands in for a missing one.
+void setPlainTitle(XId window, const std::string& ascii);
+void setTitle(XId window, const std::string& utf8);
+void setIconName(XId window, const std::string& utf8);
+
 struct SizeHints {
     int x;
     int y;
-    bool positioned; // the program chose the place
     int width;
     int height;
-    int minWidth; // 0: none
-    int minHeight;
-    int maxWidth; // 32767: none
-    int maxHeight;
+    bool userPosition; // the program asked for this place
+    bool userSize;
+    int minimumWidth; // 0: no limit; so for all that follow
+    int minimumHeight;
+    int maximumWidth;
+    int maximumHeight;
+    int widthIncrement;
+    int heightIncrement;
     int baseWidth;
     int baseHeight;
-    int widthStep; // 0: none
-    int heightStep;
 };
-
-// Protocols, class, process and leader of a new top-level window.
-void announceWindow(XId window, const std::string& instanceName, const std::string& className);
-void setTitle(XId window, const std::string& utf8);
-void setIconTitle(XId window, const std::string& utf8);
-void setIconPixmap(XId window, XId pixmap, XId mask);
 void setSizeHints(XId window, const SizeHints& hints);
-void setTransientFor(XId window, XId parent); // 0: none
-enum class WindowType { Normal, Dialog };
-void setWindowType(XId window, WindowType type);
+
+// Pixmap and mask may be 0.
+void setWindowHints(XId window, bool startsIconic, XId iconPixmap, XId iconMask, XId groupLeader);
+void setTransientFor(XId window, XId owner);
+
+enum class WindowKind { Normal, Dialog, Tool };
+void setWindowKind(XId window, WindowKind kind);
+
+// Frame and buttons that the window manager shall give.
+struct Decorations {
+    bool border;
+    bool title;
+    bool menu;
+    bool minimize;
+    bool maximize;
+    bool resizable;
+    bool modal;
+};
+void setDecorations(XId window, const Decorations& decorations);
+
+enum StateBits { StateModal = 1, StateMaximized = 2, StateFullScreen = 4, StateAbove = 8 };
 // Before the window is mapped.
-void setModal(XId window, bool modal);
-void iconify(XId window);
-// Asks the window manager for a state of a mapped window, or notes it for one that will be mapped.
-void requestState(XId window, bool mapped, const char* state, const char* otherState, bool on);
+void setInitialState(XId window, unsigned bits);
+// Afterwards the window manager is asked.
+void requestState(XId window, unsigned bits, bool on);
+
 void requestActivation(XId window);
 // Whether a window manager that knows these conventions is running.
 bool hasWindowManager();

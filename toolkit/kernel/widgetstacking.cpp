@@ -1,0 +1,26 @@
+// QWidget: what lies above what.
+#include "kernel/objecttree.h"
+#include "kernel/widgetdata.h"
+#include "x11/window.h"
+
+void QWidget::raise()
+{
+    zeltk::moveToFront(this);
+    zeltk::x11::raiseWindow(winId());
+}
+
+void QWidget::lower()
+{
+    zeltk::moveToBack(this);
+    zeltk::x11::lowerWindow(winId());
+}
+
+void QWidget::stackUnder(QWidget* sibling)
+{
+    if (!sibling || sibling == this || sibling->isTopLevel() != isTopLevel() ||
+        (!isTopLevel() && sibling->parentWidget() != parentWidget()))
+        return;
+    if (sibling->parentWidget() == parentWidget())
+        zeltk::moveBefore(this, sibling);
+    zeltk::x11::stackBelow(winId(), sibling->winId());
+}

@@ -1,0 +1,148 @@
+// QWidget: windows that are iconified, maximized, framed or fill the screen.
+#include "kernel/widgetdata.h"
+#include "x11/window.h"
+#include "x11/wmhints.h"
+
+#include <qapplication.h>
+#include <qdesktopwidget.h>
+#include <qevent.h>
+
+namespace
+{
+
+unsigned managerBits(uint state)
+{
+    unsigned bits = 0;
+    if (state & Qt::WindowMaximized)
+        bits |= zeltk::x11::StateMaximized;
+    if (state & Qt::WindowFullScreen)
+        bits |= zeltk::x11::StateFullScreen;
+    return bits;
+}
+
+void sendStateChange(QWidget* window)
+{
+    QEvent event(QEvent::WindowStateChange);
+    QApplication::sendEvent(window, &event);
+}
+
+void setMinimized(QWidget* window, bool minimized)
+{
+    zeltk::WidgetData* data = zeltk::dataOf(window);
+    const uint bit = Qt::WindowMinimized;
+    const uint state = minimized ? data->windowState | bit : data->windowState & ~bit;
+    if (state == data->windowState)
+        return;
+    data->windowState = state;
+    sendStateChange(window);
+}
+
+} // namespace
+
+namespace zeltk
+{
+
+void windowMapped(QWidget* window)
+{
+    if (dataOf(window)->mapped)
+        setMinimized(window, false);
+}
+
+// If it was not the program that took it away, it was iconified.
+void windowUnmapped(QWidget* window)
+{
+    if (dataOf(window)->mapped)
+        setMinimized(window, true);
+}
+
+// The window manager may have put the window into a frame.
+void windowReparented(QWidget* window)
+{
+    WidgetData* data = dataOf(window);
+    x11::FramePlace place;
+    if (!x11::framePlace(window->winId(), &place))
+        return;
+    const QRect client(place.client.x, place.client.y, place.client.width, place.client.height);
+    const QRect frame(place.frame.x, place.frame.y, place.frame.width, place.frame.height);
+    const QSize around = frame.size() - client.size();
+    data->frame =
+        QRect(data->rect.topLeft() - (client.topLeft() - frame.topLeft()), data->rect.size() + around);
+    windowConfigured(window, client);
+}
+
+} // namespace zeltk
+
+bool QWidget::isMinimized() const
+{
+    return (windowState() & WindowMinimized) != 0;
+}
+
+bool QWidget::isMaximized() const
+{
+    return (windowState() & WindowMaximized) != 0;
+}
+
+bool QWidget::isFullScreen() const
+{
+    return (windowState() & WindowFullScreen) != 0;
+}
+
+uint QWidget::windowState() const
+{
+    return w->windowState;
+}
+
+void QWidget::setWindowState(uint state)
+{
+    const uint before = windowState();
+    if (!isTopLevel() || state == before)
+        return;
+    const uint large = WindowMaximized | WindowFullScreen;
+    w->windowState = state;
+    if ((state & large) && !(before & large))
+        w->normalRect = geometry();
+    if (isVisible()) {
+        if (managerBits(before & ~state))
+            zeltk::x11::requestState(winId(), managerBits(before & ~state), false);
+        if (managerBits(state & ~before))
+            zeltk::x11::requestState(winId(), managerBits(state & ~before), true);
+        if (state & ~before & WindowMinimized)
+            zeltk::x11::iconifyWindow(winId());
+        else if (before & ~state & WindowMinimized)
+            zeltk::x11::mapWindow(winId());
+    } else {
+        w->described = false;
+    }
+    if ((state ^ before) & large)
+        setGeometry(state & large ? QApplication::desktop()->screenGeometry() : w->normalRect);
+    sendStateChange(this);
+}
+
+void QWidget::iconify()
+{
+    showMinimized();
+}
+
+void QWidget::showMinimized()
+{
+    setWindowState(windowState() | WindowMinimized);
+    show();
+}
+
+void QWidget::showMaximized()
+{
+    setWindowState((windowState() & ~(WindowMinimized | WindowFullScreen)) | WindowMaximized);
+    show();
+}
+
+void QWidget::showFullScreen()
+{
+    setWindowState((windowState() & ~(WindowMinimized | WindowMaximized)) | WindowFullScreen);
+    show();
+}
+
+void QWidget::showNormal()
+{
+    setWindowState(windowState() & ~(WindowMinimized | WindowMaximized | WindowFullScreen));
+    show();
+}
