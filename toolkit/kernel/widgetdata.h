@@ -43,8 +43,8 @@ struct WidgetData {
 
     bool painting = false;
     QRegion paintRegion;
-    QRegion exposed;             // until the last Expose event of a series
-    bool unerasedExpose = false; // the next one follows a resize that must not erase
+    QRegion exposed;                   // until the last Expose event of a series
+    unsigned long repaintedSerial = 0; // older Expose events are void
 
     QWidget::FocusPolicy focusPolicy = QWidget::NoFocus;
     QWidget* focusProxy = nullptr;

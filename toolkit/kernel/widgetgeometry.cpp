@@ -36,26 +36,41 @@ void tellGeometry(QWidget* widget, const QPoint& oldPos, const QSize& oldSize)
     }
 }
 
-// A window whose contents must not be erased when it is resized is without background meanwhile.
-void resizeWindow(QWidget* widget, const QRect& r, bool moved, bool resized)
+void tellServer(QWidget* widget, const QRect& r, bool moved, bool resized)
 {
-    WidgetData* data = zeltk::dataOf(widget);
-    const bool unerased = resized && widget->isVisible() && widget->testWFlags(Qt::WResizeNoErase);
-    if (unerased) {
-        x11::setNoBackground(widget->winId());
-        data->unerasedExpose = true;
-    }
-    data->configureSerial = x11::nextSerial();
+    zeltk::dataOf(widget)->configureSerial = x11::nextSerial();
     if (moved && resized)
         x11::moveResizeWindow(widget->winId(), r.x(), r.y(), r.width(), r.height());
     else if (moved)
         x11::moveWindow(widget->winId(), r.x(), r.y());
     else if (resized)
         x11::resizeWindow(widget->winId(), r.width(), r.height());
-    if (unerased) {
+}
+
+// The server exposes what a new size uncovers. Unless the contents are static all of the widget must be
+// painted: it is done as an update, and the server's wishes are void. A window that must not be erased is
+// without background meanwhile.
+void resizeWindow(QWidget* widget, const QRect& r, bool moved, bool resized)
+{
+    WidgetData* data = zeltk::dataOf(widget);
+    if (!resized || !widget->isVisible()) {
+        tellServer(widget, r, moved, resized);
+        return;
+    }
+    const bool erases = !widget->testWFlags(Qt::WResizeNoErase);
+    if (!erases)
+        x11::setNoBackground(widget->winId());
+    tellServer(widget, r, moved, resized);
+    if (!erases) {
         data->plainBackground = false;
         zeltk::applyBackground(widget);
     }
+    if (widget->testWFlags(Qt::WStaticContents))
+        return;
+    data->repaintedSerial = data->configureSerial;
+    data->exposed = QRegion();
+    if (widget->isUpdatesEnabled())
+        QApplication::postEvent(widget, new QPaintEvent(widget->visibleRect(), erases));
 }
 
 // `pos` is the place of the frame, where there is one.

@@ -5,6 +5,7 @@
 #include "kernel/widgetdata.h"
 #include "painting/pixmapdata.h"
 #include "painting/widgetpaintstate.h"
+#include "x11/events.h"
 #include "x11/window.h"
 
 #include <qapplication.h>
@@ -112,18 +113,18 @@ void deliverPaint(QWidget* widget, const QRegion& region, bool erased)
 void windowExposed(QWidget* widget, const QRect& rect, int more)
 {
     WidgetData* data = dataOf(widget);
+    if (x11::lastSerial() <= data->repaintedSerial)
+        return;
     data->exposed |= rect;
     if (more > 0)
         return;
     const QRegion region = data->exposed & QRegion(widget->rect());
     data->exposed = QRegion();
-    const bool erased = !data->unerasedExpose;
-    data->unerasedExpose = false;
     if (region.isEmpty() || !paintsItself(widget))
         return;
-    if (erased && erasesByPainter(data))
+    if (erasesByPainter(data))
         eraseRegion(widget, region);
-    deliverPaint(widget, region, erased);
+    deliverPaint(widget, region, true);
 }
 
 // A queued update of nothing that can be seen still comes as an event.

@@ -40,19 +40,19 @@ struct ModeRoles {
 
 // What is drawn on each background.
 const ModeRoles modeRoles[] = {
-    {Qt::PaletteForeground, QColorGroup::Foreground, QColorGroup::Background},
+    {Qt::PaletteForeground, QColorGroup::Foreground, QColorGroup::Foreground},
     {Qt::PaletteButton, QColorGroup::Button, QColorGroup::ButtonText},
     {Qt::PaletteLight, QColorGroup::Light, QColorGroup::Foreground},
     {Qt::PaletteMidlight, QColorGroup::Midlight, QColorGroup::Foreground},
     {Qt::PaletteDark, QColorGroup::Dark, QColorGroup::Light},
     {Qt::PaletteMid, QColorGroup::Mid, QColorGroup::Foreground},
-    {Qt::PaletteText, QColorGroup::Text, QColorGroup::Base},
+    {Qt::PaletteText, QColorGroup::Text, QColorGroup::Foreground},
     {Qt::PaletteBrightText, QColorGroup::BrightText, QColorGroup::Foreground},
     {Qt::PaletteBase, QColorGroup::Base, QColorGroup::Text},
     {Qt::PaletteShadow, QColorGroup::Shadow, QColorGroup::Light},
     {Qt::PaletteHighlight, QColorGroup::Highlight, QColorGroup::HighlightedText},
     {Qt::PaletteHighlightedText, QColorGroup::HighlightedText, QColorGroup::Highlight},
-    {Qt::PaletteButtonText, QColorGroup::ButtonText, QColorGroup::Button},
+    {Qt::PaletteButtonText, QColorGroup::ButtonText, QColorGroup::Foreground},
     {Qt::PaletteLink, QColorGroup::Link, QColorGroup::Foreground},
     {Qt::PaletteLinkVisited, QColorGroup::LinkVisited, QColorGroup::Foreground},
 };
