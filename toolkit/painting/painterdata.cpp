@@ -160,7 +160,7 @@ const x11::GcSlot* PainterData::forPen()
     if (penGc.valid())
         return penGc.slot;
     x11::GcKey key = baseKey();
-    key.lineWidth = state.pen.width() > 1 ? static_cast<int>(state.pen.width()) : 0;
+    key.lineWidth = static_cast<int>(state.pen.width());
     key.cap = capOf(state.pen.capStyle());
     key.join = joinOf(state.pen.joinStyle());
     key.dashes = dashesOf(state.pen);

@@ -9,27 +9,13 @@
 using zeltk::mirroredRect;
 namespace x11 = zeltk::x11;
 
-namespace
-{
-
-// The outline's corners; X draws the last pixel row and column beyond a polygon's corners, so they are one
-// less.
-QPointArray cornersOf(const QRect& r)
-{
-    QPointArray corners;
-    corners.setPoints(4, r.left(), r.top(), r.right(), r.top(), r.right(), r.bottom(), r.left(), r.bottom());
-    return corners;
-}
-
-} // namespace
-
 void QPainter::drawRect(int x, int y, int w, int h)
 {
     if (!isActive() || w == 0 || h == 0)
         return;
     const QRect rect = mirroredRect(x, y, w, h);
     if (!d->mapsRectsToRects()) {
-        drawPolygon(cornersOf(rect));
+        drawPolygon(QPointArray(rect));
         return;
     }
     const QRect r = d->mapRect(rect);
@@ -38,10 +24,8 @@ void QPainter::drawRect(int x, int y, int w, int h)
             d->fillDeviceRect(r, d->forBrush());
         return;
     }
-    if (r.width() < 2 || r.height() < 2)
-        return;
     if (d->hasBrush())
-        d->fillDeviceRect(QRect(r.x() + 1, r.y() + 1, r.width() - 2, r.height() - 2), d->forBrush());
+        d->fillDeviceRect(QRect(r.x(), r.y(), r.width() - 1, r.height() - 1), d->forBrush());
     x11::drawRectangle(d->drawable, d->forPen(), r.x(), r.y(), r.width() - 1, r.height() - 1);
 }
 

@@ -7,8 +7,8 @@
 
 QPointArray::QPointArray(const QRect& rect, bool closed) : QMemArray<QPoint>(closed ? 5 : 4)
 {
-    const int right = rect.right() + 1;
-    const int bottom = rect.bottom() + 1;
+    const int right = rect.right();
+    const int bottom = rect.bottom();
     setPoint(0, rect.left(), rect.top());
     setPoint(1, right, rect.top());
     setPoint(2, right, bottom);

@@ -88,16 +88,7 @@ QPointArray QWMatrix::mapToPolygon(const QRect& rect) const
 
 QRect QWMatrix::mapRect(const QRect& rect) const
 {
-    if (_m12 == 0.0 && _m21 == 0.0) {
-        const QPoint topLeft = map(rect.topLeft());
-        const QRect scaled(topLeft.x(), topLeft.y(), qRound(_m11 * rect.width()),
-                           qRound(_m22 * rect.height()));
-        return scaled.normalize();
-    }
-    QRect box = mapToPolygon(rect).boundingRect();
-    box.setWidth(box.width() - 1);
-    box.setHeight(box.height() - 1);
-    return box;
+    return mapToPolygon(rect).boundingRect();
 }
 
 QRegion QWMatrix::mapToRegion(const QRect& rect) const

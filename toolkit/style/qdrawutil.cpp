@@ -42,11 +42,22 @@ QRect inside(const QRect& r, int by)
     return QRect(r.x() + by, r.y() + by, r.width() - 2 * by, r.height() - 2 * by);
 }
 
+// A rectangle that is too small to have an inside is turned over by the painter.
 void fillInside(QPainter* p, const QRect& r, const QBrush* fill)
 {
-    if (!fill || r.width() < 1 || r.height() < 1)
-        return;
-    p->fillRect(r, *fill);
+    if (fill)
+        p->fillRect(r, *fill);
+}
+
+// One ring of a groove: its left and upper sides keep all three of their corners.
+void drawGrooveRing(QPainter* p, const QRect& r, const QColor& upperLeft, const QColor& lowerRight)
+{
+    p->setPen(lowerRight);
+    p->drawLine(r.left(), r.bottom(), r.right(), r.bottom());
+    p->drawLine(r.right(), r.top(), r.right(), r.bottom());
+    p->setPen(upperLeft);
+    p->drawLine(r.left(), r.top(), r.right(), r.top());
+    p->drawLine(r.left(), r.top(), r.left(), r.bottom());
 }
 
 // Windows bevels: two rings, each with its own two colours.
@@ -64,22 +75,35 @@ void drawWinShades(QPainter* p, const QRect& r, const QColor& outerLight, const 
 
 } // namespace
 
-// A thin box with rings of light and shade; what the rings leave is the middle.
+// The two directions differ in who owns the corners at the ends.
 void qDrawShadeLine(QPainter* p, int x1, int y1, int x2, int y2, const QColorGroup& g, bool sunken,
                     int lineWidth, int midLineWidth)
 {
-    if (!p || lineWidth < 0 || midLineWidth < 0 || (x1 != x2 && y1 != y2))
+    if (!p || lineWidth < 0 || midLineWidth < 0)
         return;
     const KeepsTools keep(p);
     const int total = lineWidth * 2 + midLineWidth;
-    QRect box(QPoint(std::min(x1, x2), std::min(y1, y2)), QPoint(std::max(x1, x2) - 1, std::max(y1, y2) - 1));
-    if (y1 == y2)
-        box = QRect(box.x(), y1 - total / 2, box.width(), total);
-    else
-        box = QRect(x1 - total / 2, box.y(), total, box.height());
-    p->fillRect(inside(box, lineWidth), g.mid());
-    for (int i = 0; i < lineWidth; ++i)
-        drawRing(p, inside(box, i), sunken ? g.dark() : g.light(), sunken ? g.light() : g.dark());
+    const QColor first = sunken ? g.dark() : g.light();
+    const QColor last = sunken ? g.light() : g.dark();
+    if (y1 == y2) {
+        const QRect box(std::min(x1, x2), y1 - total / 2, QABS(x2 - x1), total);
+        p->fillRect(inside(box, lineWidth), g.mid());
+        for (int i = 0; i < lineWidth; ++i) {
+            const QRect r = inside(box, i);
+            p->setPen(first);
+            p->drawLine(r.left(), r.top(), r.right(), r.top());
+            p->drawLine(r.left(), r.top(), r.left(), r.bottom() - 1);
+            p->setPen(last);
+            p->drawLine(r.left(), r.bottom(), r.right(), r.bottom());
+            p->drawLine(r.right(), r.top() + 1, r.right(), r.bottom());
+        }
+    } else if (x1 == x2) {
+        const QRect box(x1 - total / 2, std::min(y1, y2), total, QABS(y2 - y1));
+        p->fillRect(box, first);
+        p->fillRect(box.x() + lineWidth, box.y() + lineWidth, total - lineWidth, box.height() - lineWidth,
+                    last);
+        p->fillRect(inside(box, lineWidth), g.mid());
+    }
 }
 
 void qDrawShadeLine(QPainter* p, const QPoint& p1, const QPoint& p2, const QColorGroup& g, bool sunken,
@@ -88,23 +112,28 @@ void qDrawShadeLine(QPainter* p, const QPoint& p1, const QPoint& p2, const QColo
     qDrawShadeLine(p, p1.x(), p1.y(), p2.x(), p2.y(), g, sunken, lineWidth, midLineWidth);
 }
 
-// From the outside: a bevel, the middle, and the bevel turned inside out.
+// From the outside: a bevel, the middle, and the bevel turned inside out. A fill covers the inner bevel.
+// Without one, the thinnest of these takes the painter's own brush.
 void qDrawShadeRect(QPainter* p, int x, int y, int w, int h, const QColorGroup& g, bool sunken, int lineWidth,
                     int midLineWidth, const QBrush* fill)
 {
-    if (!p || w < 1 || h < 1 || lineWidth < 0 || midLineWidth < 0)
+    if (!p || w == 0 || h == 0 || lineWidth < 0 || midLineWidth < 0)
         return;
     const KeepsTools keep(p);
     const QRect all(x, y, w, h);
     const QColor upperLeft = sunken ? g.dark() : g.light();
     const QColor lowerRight = sunken ? g.light() : g.dark();
     for (int i = 0; i < lineWidth; ++i)
-        drawRing(p, inside(all, i), upperLeft, lowerRight);
+        drawGrooveRing(p, inside(all, i), upperLeft, lowerRight);
     for (int i = 0; i < midLineWidth; ++i)
-        drawRing(p, inside(all, lineWidth + i), g.mid(), g.mid());
+        drawGrooveRing(p, inside(all, lineWidth + i), g.mid(), g.mid());
     for (int i = 0; i < lineWidth; ++i)
-        drawRing(p, inside(all, lineWidth + midLineWidth + i), lowerRight, upperLeft);
-    fillInside(p, inside(all, 2 * lineWidth + midLineWidth), fill);
+        drawGrooveRing(p, inside(all, lineWidth + midLineWidth + i), lowerRight, upperLeft);
+    const QBrush own = p->brush();
+    if (fill)
+        fillInside(p, inside(all, lineWidth + midLineWidth), fill);
+    else if (lineWidth == 1 && midLineWidth == 0)
+        fillInside(p, inside(all, 2), &own);
 }
 
 void qDrawShadeRect(QPainter* p, const QRect& r, const QColorGroup& g, bool sunken, int lineWidth,

@@ -123,14 +123,18 @@ bool parseNumber(const std::string& text, double* number)
     size_t begin = 0;
     while (begin < text.size() && isBlank(text[begin]))
         ++begin;
-    if (begin == text.size() || text.find_first_not_of("0123456789+-.eE", begin) != std::string::npos)
+    size_t behind = text.size();
+    while (behind > begin && isBlank(text[behind - 1]))
+        --behind;
+    const std::string digits = text.substr(begin, behind - begin);
+    if (digits.empty() || digits.find_first_not_of("0123456789+-.eE") != std::string::npos)
         return false;
     char* end = nullptr;
-    const double value = strtod_l(text.c_str() + begin, &end, plainLocale());
-    if (end != text.c_str() + text.size())
+    const double value = strtod_l(digits.c_str(), &end, plainLocale());
+    if (*end != '\0')
         return false;
     *number = value;
-    return true;
+    return behind == text.size(); // blanks at the end are an error, but the number is there
 }
 
 } // namespace zeltk

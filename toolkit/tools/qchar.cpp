@@ -87,7 +87,7 @@ bool QChar::isNumber() const
 // The underscore counts, as in the names of programming languages.
 bool QChar::isLetterOrNumber() const
 {
-    return ucs == '_' || isLetter() || isNumber();
+    return isLetter() || isNumber();
 }
 
 int QChar::digitValue() const

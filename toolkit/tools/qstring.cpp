@@ -59,9 +59,17 @@ size_t lengthOf(const char* text, int length)
     return length < 0 ? std::strlen(text) : strnlen(text, static_cast<size_t>(length));
 }
 
+// The locale of the user's environment, whether or not the program has set it.
 bool localeIsUtf8()
 {
-    return std::strcmp(nl_langinfo(CODESET), "UTF-8") == 0;
+    static const bool isUtf8 = [] {
+        const locale_t locale = newlocale(LC_CTYPE_MASK, "", nullptr);
+        const bool result = locale && std::strcmp(nl_langinfo_l(CODESET, locale), "UTF-8") == 0;
+        if (locale)
+            freelocale(locale);
+        return result;
+    }();
+    return isUtf8;
 }
 
 } // namespace
@@ -344,7 +352,7 @@ const char* QString::latin1() const
 
 QCString QString::utf8() const
 {
-    return isNull() ? QCString() : QCString(zeltk::toUtf8(*this).c_str());
+    return zeltk::toUtf8(*this).c_str();
 }
 
 QCString QString::local8Bit() const

@@ -29,7 +29,8 @@ QStringList QStringList::split(const QString& separator, const QString& text, bo
     for (int end = text.find(separator, start); end >= 0 && !separator.isEmpty();
          end = text.find(separator, start)) {
         if (allowEmptyEntries || end > start)
-            parts << text.mid(static_cast<uint>(start), static_cast<uint>(end - start));
+            parts << (end > start ? text.mid(static_cast<uint>(start), static_cast<uint>(end - start))
+                                  : QString::null);
         start = end + static_cast<int>(separator.length());
     }
     const QString rest = text.mid(static_cast<uint>(start));
