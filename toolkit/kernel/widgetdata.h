@@ -84,6 +84,9 @@ const std::vector<QWidget*>& everyWidget();
 
 // Palette and font of a new or moved widget, from its parent or the application.
 void inheritLook(QWidget* widget);
+void inheritFont(QWidget* widget);
+// Whether the background comes from a role of the palette.
+bool isPaletteMode(Qt::BackgroundMode mode);
 // Sets the window's background from its mode and colours.
 void applyBackground(QWidget* widget);
 void applyCursor(QWidget* widget);

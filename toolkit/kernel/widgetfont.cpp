@@ -1,0 +1,91 @@
+// QWidget: the font, and how children inherit it.
+#include "kernel/widgetdata.h"
+
+#include <qapplication.h>
+
+using zeltk::childWidgets;
+using zeltk::dataOf;
+using zeltk::WidgetAccess;
+using zeltk::WidgetData;
+
+namespace
+{
+
+QFont inheritedFont(const QWidget* widget)
+{
+    const QWidget* parent = widget->parentWidget(true);
+    return parent ? dataOf(parent)->font : QApplication::font(widget);
+}
+
+void changeFont(QWidget* widget, const QFont& font)
+{
+    WidgetData* data = dataOf(widget);
+    if (data->font == font)
+        return;
+    const QFont old = data->font;
+    data->font = font;
+    for (QWidget* child : childWidgets(widget)) {
+        if (child->isTopLevel())
+            continue;
+        WidgetData* childData = dataOf(child);
+        if (childData->ownFont) {
+            changeFont(child, childData->askedFont.resolve(font));
+        } else {
+            child->setFont(font);
+            childData->ownFont = false;
+        }
+    }
+    WidgetAccess::fontChange(widget, old);
+}
+
+} // namespace
+
+namespace zeltk
+{
+
+void inheritFont(QWidget* widget)
+{
+    const WidgetData* data = dataOf(widget);
+    const QFont parentFont = inheritedFont(widget);
+    changeFont(widget, data->ownFont ? data->askedFont.resolve(parentFont) : parentFont);
+}
+
+} // namespace zeltk
+
+QFont QWidget::font() const
+{
+    return w->font;
+}
+
+bool QWidget::ownFont() const
+{
+    return w->ownFont;
+}
+
+void QWidget::setFont(const QFont& font)
+{
+    w->ownFont = true;
+    w->askedFont = font;
+    changeFont(this, font.resolve(inheritedFont(this)));
+}
+
+void QWidget::unsetFont()
+{
+    setFont(inheritedFont(this));
+    w->ownFont = false;
+}
+
+void QWidget::fontChange(const QFont&)
+{
+    update();
+}
+
+QFontMetrics QWidget::fontMetrics() const
+{
+    return QFontMetrics(w->font);
+}
+
+QFontInfo QWidget::fontInfo() const
+{
+    return QFontInfo(w->font);
+}

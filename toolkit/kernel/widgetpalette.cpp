@@ -1,0 +1,140 @@
+// QWidget: colours, and how children inherit them.
+#include <qwidget.h>
+
+#include "kernel/widgetdata.h"
+
+#include <qapplication.h>
+
+using zeltk::childWidgets;
+using zeltk::dataOf;
+using zeltk::isPaletteMode;
+using zeltk::WidgetAccess;
+using zeltk::WidgetData;
+
+namespace
+{
+
+QPalette inheritedPalette(const QWidget* widget)
+{
+    const QWidget* parent = widget->parentWidget(true);
+    return parent ? parent->palette() : QApplication::palette(widget);
+}
+
+// Children without a palette of their own follow, before the widget itself is told.
+void changePalette(QWidget* widget, const QPalette& palette)
+{
+    WidgetData* data = dataOf(widget);
+    if (data->palette == palette)
+        return;
+    const QPalette old = data->palette;
+    data->palette = palette;
+    zeltk::applyBackground(widget);
+    for (QWidget* child : childWidgets(widget)) {
+        if (child->isTopLevel() || child->ownPalette())
+            continue;
+        child->setPalette(palette);
+        dataOf(child)->ownPalette = false;
+    }
+    WidgetAccess::paletteChange(widget, old);
+    widget->update();
+}
+
+} // namespace
+
+namespace zeltk
+{
+
+void inheritLook(QWidget* widget)
+{
+    if (!widget->ownPalette())
+        changePalette(widget, inheritedPalette(widget));
+    inheritFont(widget);
+}
+
+} // namespace zeltk
+
+const QColorGroup& QWidget::colorGroup() const
+{
+    if (!isEnabled())
+        return w->palette.disabled();
+    return !isVisible() || isActiveWindow() ? w->palette.active() : w->palette.inactive();
+}
+
+const QPalette& QWidget::palette() const
+{
+    return w->palette;
+}
+
+bool QWidget::ownPalette() const
+{
+    return w->ownPalette;
+}
+
+void QWidget::setPalette(const QPalette& palette)
+{
+    w->ownPalette = true;
+    changePalette(this, palette);
+}
+
+void QWidget::unsetPalette()
+{
+    setPalette(inheritedPalette(this));
+    w->ownPalette = false;
+}
+
+void QWidget::paletteChange(const QPalette&) {}
+
+const QColor& QWidget::foregroundColor() const
+{
+    return paletteForegroundColor();
+}
+
+const QColor& QWidget::paletteForegroundColor() const
+{
+    return colorGroup().color(QPalette::foregroundRoleFromMode(w->visualMode));
+}
+
+void QWidget::setPaletteForegroundColor(const QColor& color)
+{
+    QPalette changed(palette());
+    changed.setColor(QPalette::foregroundRoleFromMode(w->visualMode), color);
+    setPalette(changed);
+}
+
+const QColor& QWidget::paletteBackgroundColor() const
+{
+    if (!isPaletteMode(w->visualMode))
+        return eraseColor();
+    return colorGroup().brush(QPalette::backgroundRoleFromMode(w->visualMode)).color();
+}
+
+// A widget without a role for its background gets a fixed colour.
+void QWidget::setPaletteBackgroundColor(const QColor& color)
+{
+    if (!isPaletteMode(w->visualMode)) {
+        setEraseColor(color);
+        return;
+    }
+    QPalette changed(palette());
+    changed.setColor(QPalette::backgroundRoleFromMode(w->visualMode), color);
+    setPalette(changed);
+}
+
+const QPixmap* QWidget::paletteBackgroundPixmap() const
+{
+    if (!isPaletteMode(w->visualMode))
+        return erasePixmap();
+    return colorGroup().brush(QPalette::backgroundRoleFromMode(w->visualMode)).pixmap();
+}
+
+void QWidget::setPaletteBackgroundPixmap(const QPixmap& pixmap)
+{
+    if (!isPaletteMode(w->visualMode)) {
+        setErasePixmap(pixmap);
+        return;
+    }
+    QPalette changed(palette());
+    changed.setBrush(QPalette::backgroundRoleFromMode(w->visualMode),
+                     QBrush(paletteBackgroundColor(), pixmap));
+    setPalette(changed);
+}
