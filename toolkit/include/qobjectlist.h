@@ -24,4 +24,6 @@ public:
     QObjectListIterator(const QObjectList& list) : QPtrListIterator<QObject>(list) {}
 };
 
+typedef QObjectListIterator QObjectListIt;
+
 #endif

@@ -3,6 +3,7 @@
 
 #include "kernel/applicationdata.h"
 #include "kernel/applicationprivate.h"
+#include "kernel/dispatch.h"
 #include "kernel/widgetdata.h"
 #include "x11/events.h"
 #include "x11/input.h"
@@ -23,14 +24,6 @@ template <typename Item>
 void removeFrom(std::vector<Item>* list, Item item)
 {
     list->erase(std::remove(list->begin(), list->end(), item), list->end());
-}
-
-bool isInside(const QWidget* widget, const QWidget* ancestor)
-{
-    for (; widget; widget = widget->parentWidget(true))
-        if (widget == ancestor)
-            return true;
-    return false;
 }
 
 bool takesTab(const QWidget* widget)
@@ -132,53 +125,56 @@ QWidget* keyReceiver(QWidget* window)
     return window;
 }
 
-// The focus goes on to the next widget, or away.
-void focusLeaves(QWidget* widget)
+namespace
 {
-    ApplicationData* app = application();
-    QWidget* window = widget->topLevelWidget();
-    if (dataOf(window)->focus && isInside(dataOf(window)->focus, widget) && widget != window) {
-        QWidget* old = dataOf(window)->focus;
-        if (app->focus == old && !WidgetAccess::focusNextPrev(old, true)) {
-            dataOf(window)->focus = nullptr;
-            moveFocus(nullptr, QFocusEvent::Other);
-        } else if (app->focus != old) {
-            dataOf(window)->focus = nullptr;
-        }
-    }
-}
 
-void widgetHidden(QWidget* widget)
+void forgetGrabs(QWidget* widget)
 {
     ApplicationData* app = application();
-    focusLeaves(widget);
     if (app->mouseGrabber == widget)
         widget->releaseMouse();
     if (app->keyboardGrabber == widget)
         widget->releaseKeyboard();
     if (app->pressed == widget)
         app->pressed = nullptr;
-    if (app->hovered && isInside(app->hovered, widget)) {
-        for (QWidget* w = app->hovered; w; w = w->parentWidget(true)) {
-            WidgetAccess::clearState(w, Qt::WState_HasMouse);
-            if (w == widget)
-                break;
-        }
-        app->hovered = nullptr;
-    }
-    if (app->active == widget)
+}
+
+// The focus goes on to the next widget, or away.
+void passFocusOn(QWidget* widget)
+{
+    if (dataOf(widget->topLevelWidget())->focus != widget || widget->isTopLevel())
+        return;
+    if (!widget->hasFocus() || !WidgetAccess::focusNextPrev(widget, true))
+        widget->clearFocus();
+}
+
+} // namespace
+
+void widgetHidden(QWidget* widget)
+{
+    passFocusOn(widget);
+    forgetGrabs(widget);
+    if (application()->active == widget)
         setActive(nullptr);
 }
 
+// Who is disabled together with the parent has no next one.
 void widgetDisabled(QWidget* widget)
 {
-    focusLeaves(widget);
+    const QWidget* parent = widget->parentWidget(true);
+    if (parent && !parent->isEnabled())
+        widget->clearFocus();
+    else
+        passFocusOn(widget);
 }
 
 void widgetDestroyed(QWidget* widget)
 {
     ApplicationData* app = application();
+    if (widget->hasFocus())
+        widget->clearFocus();
     widgetHidden(widget);
+    forgetHovered(widget);
     removeFrom(&app->popups, widget);
     removeFrom(&app->modals, widget);
     if (app->focus == widget)
@@ -278,9 +274,7 @@ bool QWidget::focusNextPrevChild(bool next)
         QWidget* candidate = order[static_cast<size_t>(place)];
         if (candidate == w->focus || candidate == this || !takesTab(candidate))
             continue;
-        QFocusEvent::setReason(next ? QFocusEvent::Tab : QFocusEvent::Backtab);
         candidate->setFocus();
-        QFocusEvent::resetReason();
         return true;
     }
     return false;

@@ -7,10 +7,42 @@
 #include <qapplication.h>
 #include <qevent.h>
 
+namespace
+{
+
+bool moveFocusByKey(QWidget* widget, bool next)
+{
+    QFocusEvent::setReason(next ? QFocusEvent::Tab : QFocusEvent::Backtab);
+    const bool moved = zeltk::WidgetAccess::focusNextPrev(widget, next);
+    QFocusEvent::resetReason();
+    return moved;
+}
+
+bool isInput(const QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::Wheel:
+    case QEvent::ContextMenu:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
 bool QWidget::event(QEvent* event)
 {
     if (zeltk::ObjectAccess::filter(this, event))
         return true;
+    if (!isEnabled() && isInput(event))
+        return false;
     switch (event->type()) {
     case QEvent::MouseMove:
         mouseMoveEvent(static_cast<QMouseEvent*>(event));
@@ -32,9 +64,9 @@ bool QWidget::event(QEvent* event)
         bool moved = false;
         if (!(key->state() & ControlButton) && !(key->state() & AltButton)) {
             if (key->key() == Key_Backtab || (key->key() == Key_Tab && (key->state() & ShiftButton)))
-                moved = focusNextPrevChild(false);
+                moved = moveFocusByKey(this, false);
             else if (key->key() == Key_Tab)
-                moved = focusNextPrevChild(true);
+                moved = moveFocusByKey(this, true);
         }
         if (!moved)
             keyPressEvent(key);
@@ -50,9 +82,11 @@ bool QWidget::event(QEvent* event)
         focusOutEvent(static_cast<QFocusEvent*>(event));
         return true;
     case QEvent::Enter:
+        w->state |= WState_HasMouse;
         enterEvent(event);
         return true;
     case QEvent::Leave:
+        w->state &= ~static_cast<WState>(WState_HasMouse);
         leaveEvent(event);
         return true;
     case QEvent::Paint:
@@ -101,8 +135,12 @@ bool QWidget::event(QEvent* event)
 
 void QWidget::mousePressEvent(QMouseEvent* event)
 {
-    event->ignore();
-    if (isPopup() && !rect().contains(event->pos()))
+    if (!isPopup()) {
+        event->ignore();
+        return;
+    }
+    event->accept();
+    if (!rect().contains(event->pos()))
         close();
 }
 
@@ -113,7 +151,6 @@ void QWidget::mouseReleaseEvent(QMouseEvent* event)
 
 void QWidget::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    event->ignore();
     mousePressEvent(event);
 }
 

@@ -93,27 +93,38 @@ void readMotion(const XMotionEvent& motion, Event* event)
     event->state = motion.state;
 }
 
+// Whether the pointer really comes or goes: not when it passes through to a window further inside or outside,
+// nor when a grab begins. At the end of a grab a window does not hear of what was inside of it all the time.
+bool isCrossing(const XCrossingEvent& crossing)
+{
+    if (crossing.detail == NotifyVirtual || crossing.detail == NotifyNonlinearVirtual)
+        return false;
+    if (crossing.type == EnterNotify && crossing.mode == NotifyUngrab)
+        return crossing.detail != NotifyInferior;
+    return crossing.mode == NotifyNormal;
+}
+
 void readCrossing(const XCrossingEvent& crossing, Event* event)
 {
     noteTime(crossing.time, event);
-    if (crossing.detail == NotifyVirtual || crossing.detail == NotifyNonlinearVirtual)
-        return; // the pointer passes through to a window further inside or outside
+    if (!isCrossing(crossing))
+        return;
     event->type = crossing.type == EnterNotify ? Event::EnterWindow : Event::LeaveWindow;
     event->x = crossing.x;
     event->y = crossing.y;
     event->rootX = crossing.x_root;
     event->rootY = crossing.y_root;
     event->state = crossing.state;
-    event->byGrab = crossing.mode == NotifyGrab;
 }
 
 void readFocus(const XFocusChangeEvent& focus, Event* event)
 {
-    if (focus.detail == NotifyPointer || focus.detail == NotifyPointerRoot ||
-        focus.detail == NotifyDetailNone || focus.detail == NotifyInferior)
+    const bool toPointer = focus.detail == NotifyPointer || focus.detail == NotifyPointerRoot ||
+                           focus.detail == NotifyDetailNone;
+    const bool byGrab = focus.mode == NotifyGrab || focus.mode == NotifyUngrab;
+    if (toPointer || byGrab || focus.detail == NotifyInferior)
         return;
     event->type = focus.type == XFocusIn ? Event::FocusGained : Event::FocusLost;
-    event->byGrab = focus.mode == NotifyGrab || focus.mode == NotifyUngrab;
 }
 
 void readConfigure(const XConfigureEvent& configure, Event* event)
@@ -229,6 +240,16 @@ void compressMotion(Event* event)
         XNextEvent(display(), &next);
         readMotion(next.xmotion, event);
     }
+}
+
+XId takeEntered()
+{
+    XId entered = 0;
+    XEvent event;
+    while (XCheckMaskEvent(display(), EnterWindowMask | LeaveWindowMask, &event))
+        if (event.type == EnterNotify && isCrossing(event.xcrossing))
+            entered = event.xcrossing.window;
+    return entered;
 }
 
 unsigned long lastTime()

@@ -43,7 +43,6 @@ struct Event {
     unsigned state = 0;     // modifiers and buttons before the event, bits of the X server
     unsigned button = 0;    // its number
     int count = 0;          // Exposed: how many follow for the window
-    bool byGrab = false;    // crossings and focus changes that a grab caused
     bool synthetic = false; // sent by a client, such as the window manager
     unsigned long keysym = 0;
     std::string text; // UTF-8
@@ -55,6 +54,8 @@ bool nextEvent(Event* event);
 bool eventsPending();
 // Takes motions that follow right behind one of the same window, and keeps the last.
 void compressMotion(Event* event);
+// Takes the crossings that follow and tells the window that was entered at last; 0 if there is none.
+XId takeEntered();
 // The time of the last event that had one.
 unsigned long lastTime();
 // How far the server had come with our requests when it sent the event that was taken last.

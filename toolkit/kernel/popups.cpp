@@ -1,0 +1,61 @@
+// Windows that keep input from others: popups and modal windows.
+#include "kernel/applicationdata.h"
+#include "kernel/applicationprivate.h"
+#include "kernel/dispatch.h"
+#include "kernel/widgetdata.h"
+#include "x11/events.h"
+#include "x11/input.h"
+
+#include <algorithm>
+
+namespace zeltk
+{
+
+// The first popup takes pointer and keyboard, so that it hears of clicks beside it.
+void popupShown(QWidget* popup)
+{
+    ApplicationData* app = application();
+    app->popups.push_back(popup);
+    app->pressed = nullptr;
+    if (app->popups.size() == 1) {
+        x11::grabPointer(popup->winId(), 0, true, x11::lastTime());
+        x11::grabKeyboard(popup->winId(), x11::lastTime());
+    }
+    moveFocus(popup->focusWidget(), QFocusEvent::Popup);
+}
+
+void popupHidden(QWidget* popup)
+{
+    ApplicationData* app = application();
+    app->popups.erase(std::remove(app->popups.begin(), app->popups.end(), popup), app->popups.end());
+    if (!app->popups.empty()) {
+        moveFocus(app->popups.back()->focusWidget(), QFocusEvent::Popup);
+        return;
+    }
+    x11::ungrabPointer(x11::lastTime());
+    x11::ungrabKeyboard(x11::lastTime());
+    if (app->active)
+        moveFocus(dataOf(app->active)->focus, QFocusEvent::Popup);
+}
+
+void modalShown(QWidget* modal)
+{
+    leaveHovered();
+    application()->modals.push_back(modal);
+    application()->pressed = nullptr;
+}
+
+void modalHidden(QWidget* modal)
+{
+    std::vector<QWidget*>& modals = application()->modals;
+    modals.erase(std::remove(modals.begin(), modals.end(), modal), modals.end());
+}
+
+// What belongs to the modal window, and popups, stay open to the user.
+bool blockedByModal(QWidget* widget)
+{
+    const QWidget* modal = QApplication::activeModalWidget();
+    return modal && !widget->topLevelWidget()->isPopup() && !isInside(widget, modal);
+}
+
+} // namespace zeltk
