@@ -165,6 +165,8 @@ const x11::GcSlot* PainterData::forPen()
     key.join = joinOf(state.pen.joinStyle());
     key.dashes = dashesOf(state.pen);
     if (!key.dashes.empty())
+        key.lineWidth = std::max(key.lineWidth, 1);
+    if (!key.dashes.empty())
         key.lineStyle = state.backgroundMode == Qt::OpaqueMode ? x11::LineDoubleDash : x11::LineOnOff;
     penGc.slot = x11::gcFor(key);
     penGc.version = penGc.slot->version;
@@ -211,6 +213,14 @@ void PainterData::fillDeviceRect(const QRect& rect, const x11::GcSlot* gc) const
 {
     if (!rect.isEmpty())
         x11::fillRectangle(drawable, gc, rect.x(), rect.y(), rect.width(), rect.height());
+}
+
+void PainterData::fillTurnedRect(const QRect& rect, const x11::GcSlot* gc) const
+{
+    std::vector<x11::Point> corners = mapPoints(QPointArray(rect), 0, -1);
+    x11::fillPolygon(drawable, gc, corners, false);
+    corners.push_back(corners.front());
+    x11::drawPolyline(drawable, gc, corners);
 }
 
 void PainterData::fillPoints(const std::vector<x11::Point>& points, bool winding, const x11::GcSlot* gc) const

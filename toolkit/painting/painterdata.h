@@ -86,6 +86,8 @@ struct PainterData {
     bool mapsRectsToRects() const { return transform != Transform::Other; }
 
     void fillDeviceRect(const QRect& rect, const x11::GcSlot* gc) const;
+    // The outline counts as inside.
+    void fillTurnedRect(const QRect& rect, const x11::GcSlot* gc) const;
     void fillPoints(const std::vector<x11::Point>& points, bool winding, const x11::GcSlot* gc) const;
 };
 

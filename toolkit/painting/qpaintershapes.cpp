@@ -38,7 +38,7 @@ void QPainter::fillRect(int x, int y, int w, int h, const QBrush& brush)
     if (d->mapsRectsToRects())
         d->fillDeviceRect(d->mapRect(rect), gc);
     else
-        d->fillPoints(d->mapPoints(QPointArray(rect), 0, -1), false, gc);
+        d->fillTurnedRect(rect, gc);
 }
 
 void QPainter::eraseRect(int x, int y, int w, int h)

@@ -60,6 +60,21 @@ void drawGrooveRing(QPainter* p, const QRect& r, const QColor& upperLeft, const 
     p->drawLine(r.left(), r.top(), r.left(), r.bottom());
 }
 
+// Two outlines, one pixel apart; the second one lies on the first.
+void drawThinGroove(QPainter* p, const QRect& r, const QColor& upperLeft, const QColor& lowerRight)
+{
+    const QBrush brush = p->brush();
+    p->setBrush(Qt::NoBrush);
+    p->setPen(upperLeft);
+    p->drawRect(r.x(), r.y(), r.width() - 1, r.height() - 1);
+    p->setBrush(brush);
+    p->setPen(lowerRight);
+    p->drawLine(r.left() + 1, r.top() + 1, r.right() - 2, r.top() + 1);
+    p->drawLine(r.left() + 1, r.top() + 1, r.left() + 1, r.bottom() - 2);
+    p->drawLine(r.left(), r.bottom(), r.right(), r.bottom());
+    p->drawLine(r.right(), r.top(), r.right(), r.bottom());
+}
+
 // Windows bevels: two rings, each with its own two colours.
 void drawWinShades(QPainter* p, const QRect& r, const QColor& outerLight, const QColor& outerDark,
                    const QColor& innerLight, const QColor& innerDark, const QBrush* fill)
@@ -123,17 +138,19 @@ void qDrawShadeRect(QPainter* p, int x, int y, int w, int h, const QColorGroup& 
     const QRect all(x, y, w, h);
     const QColor upperLeft = sunken ? g.dark() : g.light();
     const QColor lowerRight = sunken ? g.light() : g.dark();
+    if (lineWidth == 1 && midLineWidth == 0) {
+        drawThinGroove(p, all, upperLeft, lowerRight);
+        const QBrush own = p->brush();
+        fillInside(p, inside(all, fill ? 1 : 2), fill ? fill : &own);
+        return;
+    }
     for (int i = 0; i < lineWidth; ++i)
         drawGrooveRing(p, inside(all, i), upperLeft, lowerRight);
     for (int i = 0; i < midLineWidth; ++i)
         drawGrooveRing(p, inside(all, lineWidth + i), g.mid(), g.mid());
     for (int i = 0; i < lineWidth; ++i)
         drawGrooveRing(p, inside(all, lineWidth + midLineWidth + i), lowerRight, upperLeft);
-    const QBrush own = p->brush();
-    if (fill)
-        fillInside(p, inside(all, lineWidth + midLineWidth), fill);
-    else if (lineWidth == 1 && midLineWidth == 0)
-        fillInside(p, inside(all, 2), &own);
+    fillInside(p, inside(all, lineWidth + midLineWidth), fill);
 }
 
 void qDrawShadeRect(QPainter* p, const QRect& r, const QColorGroup& g, bool sunken, int lineWidth,
