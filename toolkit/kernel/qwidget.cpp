@@ -8,6 +8,7 @@
 #include "x11/window.h"
 
 #include <qapplication.h>
+#include <qdesktopwidget.h>
 #include <qobjectlist.h>
 
 #include <algorithm>
@@ -47,9 +48,10 @@ QRect initialRect(bool topLevel)
 {
     if (!topLevel)
         return QRect(0, 0, 100, 30);
-    const int width = x11::screenWidth() / 2;
-    const int height = x11::screenHeight() * 4 / 10;
-    return QRect(x11::screenWidth() / 2 - width / 2, x11::screenHeight() / 2 - height / 2, width, height);
+    const QRect& screen = QApplication::desktop()->geometry();
+    const int width = screen.width() / 2;
+    const int height = screen.height() * 4 / 10;
+    return QRect((screen.width() - width) / 2, (screen.height() - height) / 2, width, height);
 }
 
 bool isUnmanaged(const QWidget* widget)

@@ -15,12 +15,12 @@ void QWidget::lower()
     zeltk::x11::lowerWindow(winId());
 }
 
+// Only the window manager stacks windows among each other.
 void QWidget::stackUnder(QWidget* sibling)
 {
-    if (!sibling || sibling == this || sibling->isTopLevel() != isTopLevel() ||
-        (!isTopLevel() && sibling->parentWidget() != parentWidget()))
+    if (!sibling || sibling == this || isTopLevel() || sibling->isTopLevel() ||
+        sibling->parentWidget() != parentWidget())
         return;
-    if (sibling->parentWidget() == parentWidget())
-        zeltk::moveBefore(this, sibling);
+    zeltk::moveBefore(this, sibling);
     zeltk::x11::stackBelow(winId(), sibling->winId());
 }
