@@ -78,6 +78,8 @@ void startGeometry(QWidget* widget)
 void forgetWindows(QWidget* widget)
 {
     byWindow().erase(widget->winId());
+    if (!widget->isDesktop())
+        x11::forgetDrawable(widget->winId());
     zeltk::WidgetAccess::setWinId(widget, 0);
     for (QWidget* child : zeltk::childWidgets(widget))
         if (!child->isTopLevel())
@@ -168,6 +170,8 @@ QWidget::QWidget(QWidget* parent, const char* name, WFlags f)
 
 QWidget::~QWidget()
 {
+    if (hasFocus())
+        clearFocus();
     if (isVisible() && !isDesktop())
         hide();
     zeltk::widgetDestroyed(this);
