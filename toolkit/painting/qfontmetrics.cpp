@@ -14,8 +14,8 @@ using zeltk::faceOf;
 namespace
 {
 
-// The letters whose bearings stand for all: those that reach out furthest in common faces.
-const char16_t outstanding[] = u"AFJTVWYfjrtvwy/[](){}|";
+// The letters whose bearings stand for all of a font's.
+const char16_t outstanding[] = u"FTVXYZfr\u00cd\u0192\u0249\u04b0\u20a7";
 
 std::u16string firstOf(const QString& text, int length)
 {
@@ -23,10 +23,12 @@ std::u16string firstOf(const QString& text, int length)
     return length < 0 ? all : all.substr(0, static_cast<size_t>(length));
 }
 
+// Grows with size and weight; two pixels come early.
 int lineWidthOf(const QFont& font)
 {
     const int weight = zeltk::x11::isBold(faceOf(font)) ? QFont::Bold : QFont::Normal;
-    return std::max(1, zeltk::pixelSizeOf(font) * weight / 700);
+    const int score = zeltk::pixelSizeOf(font) * weight;
+    return score >= 1050 && score < 1400 ? 2 : std::max(1, score / 700);
 }
 
 } // namespace
