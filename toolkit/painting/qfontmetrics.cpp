@@ -15,7 +15,8 @@ namespace
 {
 
 // The letters whose bearings stand for all of a font's.
-const char16_t outstanding[] = u"FTVXYZfr\u00cd\u0192\u0249\u04b0\u20a7";
+const char16_t reachLeft[] = u"FTVXYZ";
+const char16_t reachRight[] = u"FTVXYZfr\u00cd\u0192\u0249\u04b0\u20a7";
 
 std::u16string firstOf(const QString& text, int length)
 {
@@ -65,7 +66,7 @@ int QFontMetrics::leading() const
 int QFontMetrics::minLeftBearing() const
 {
     int least = 0;
-    for (const char16_t* c = outstanding; *c; ++c)
+    for (const char16_t* c = reachLeft; *c; ++c)
         least = std::min(least, leftBearing(QChar(static_cast<ushort>(*c))));
     return least;
 }
@@ -73,7 +74,7 @@ int QFontMetrics::minLeftBearing() const
 int QFontMetrics::minRightBearing() const
 {
     int least = 0;
-    for (const char16_t* c = outstanding; *c; ++c)
+    for (const char16_t* c = reachRight; *c; ++c)
         least = std::min(least, rightBearing(QChar(static_cast<ushort>(*c))));
     return least;
 }
