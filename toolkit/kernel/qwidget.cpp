@@ -5,6 +5,7 @@
 #include "kernel/objectdata.h"
 #include "kernel/objecttree.h"
 #include "kernel/widgetdata.h"
+#include "x11/textdraw.h"
 #include "x11/window.h"
 
 #include <qapplication.h>

@@ -59,6 +59,14 @@ bool isWhole(double value)
     return value == std::floor(value) && std::fabs(value) < 32768;
 }
 
+// Lays the window over the viewport.
+QWMatrix viewMatrix(const QRect& window, const QRect& viewport)
+{
+    const double sx = window.width() ? static_cast<double>(viewport.width()) / window.width() : 1.0;
+    const double sy = window.height() ? static_cast<double>(viewport.height()) / window.height() : 1.0;
+    return QWMatrix(sx, 0.0, 0.0, sy, viewport.x() - window.x() * sx, viewport.y() - window.y() * sy);
+}
+
 x11::Clip clipOf(const QRegion& region)
 {
     auto rects = std::make_shared<std::vector<x11::ClipRect>>();
@@ -91,8 +99,11 @@ void PainterData::changed()
 
 void PainterData::transformChanged()
 {
-    const QWMatrix& m = state.world;
-    if (!state.worldOn || m.isIdentity()) {
+    matrix = state.worldOn ? state.world : QWMatrix();
+    if (state.viewOn)
+        matrix = matrix * viewMatrix(state.window, state.viewport);
+    const QWMatrix& m = matrix;
+    if (m.isIdentity()) {
         transform = Transform::None;
     } else if (m.m12() != 0.0 || m.m21() != 0.0) {
         transform = Transform::Other;
@@ -190,7 +201,7 @@ QRect PainterData::mapRect(const QRect& rect) const
     case Transform::Translation:
         return QRect(rect.x() + dx, rect.y() + dy, rect.width(), rect.height());
     default:
-        return state.world.mapRect(rect);
+        return matrix.mapRect(rect);
     }
 }
 
@@ -213,6 +224,14 @@ void PainterData::fillDeviceRect(const QRect& rect, const x11::GcSlot* gc) const
 {
     if (!rect.isEmpty())
         x11::fillRectangle(drawable, gc, rect.x(), rect.y(), rect.width(), rect.height());
+}
+
+void PainterData::fillMappedRect(const QRect& rect, const x11::GcSlot* gc) const
+{
+    if (mapsRectsToRects())
+        fillDeviceRect(mapRect(rect), gc);
+    else
+        fillTurnedRect(rect, gc);
 }
 
 void PainterData::fillTurnedRect(const QRect& rect, const x11::GcSlot* gc) const

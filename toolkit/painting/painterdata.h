@@ -22,6 +22,9 @@ struct PainterState {
     Qt::RasterOp rop = Qt::CopyROP;
     QWMatrix world;
     bool worldOn = false;
+    QRect window;
+    QRect viewport;
+    bool viewOn = false;
     bool clipOn = false;
     QRegion clip; // in device coordinates
     QPoint pos;
@@ -48,6 +51,7 @@ struct PainterData {
     PainterState state;
     std::vector<PainterState> saved;
 
+    QWMatrix matrix; // from the program's coordinates to the device's
     Transform transform = Transform::None;
     int dx = 0; // of a translation
     int dy = 0;
@@ -79,7 +83,7 @@ struct PainterData {
             *y += dy;
             return;
         }
-        state.world.map(*x, *y, x, y);
+        matrix.map(*x, *y, x, y);
     }
     QRect mapRect(const QRect& rect) const;
     std::vector<x11::Point> mapPoints(const QPointArray& points, int index, int count) const;
@@ -87,6 +91,8 @@ struct PainterData {
 
     void fillDeviceRect(const QRect& rect, const x11::GcSlot* gc) const;
     // The outline counts as inside.
+    // Fills a rectangle in the program's coordinates.
+    void fillMappedRect(const QRect& rect, const x11::GcSlot* gc) const;
     void fillTurnedRect(const QRect& rect, const x11::GcSlot* gc) const;
     void fillPoints(const std::vector<x11::Point>& points, bool winding, const x11::GcSlot* gc) const;
 };

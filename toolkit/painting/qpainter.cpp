@@ -371,7 +371,7 @@ QRegion QPainter::clipRegion(CoordinateMode mode) const
 {
     if (mode == CoordDevice || d->transform == zeltk::Transform::None)
         return d->state.clip;
-    return d->state.world.invert().map(d->state.clip);
+    return d->matrix.invert().map(d->state.clip);
 }
 
 void QPainter::setClipRect(const QRect& rect, CoordinateMode mode)
@@ -384,7 +384,7 @@ void QPainter::setClipRegion(const QRegion& region, CoordinateMode mode)
     if (!isActive())
         qWarning("QPainter::setClipRegion: Will be reset by begin()");
     const bool mapped = mode == CoordPainter && d->transform != zeltk::Transform::None;
-    d->state.clip = mapped ? d->state.world.map(region) : region;
+    d->state.clip = mapped ? d->matrix.map(region) : region;
     setClipping(true);
 }
 

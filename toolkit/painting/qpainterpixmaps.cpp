@@ -59,7 +59,7 @@ void QPainter::drawPixmap(int x, int y, const QPixmap& pixmap, int sx, int sy, i
         return;
     }
     QPoint origin;
-    const QImage image = transformed(pixmap.convertToImage().copy(part), d->state.world, &origin);
+    const QImage image = transformed(pixmap.convertToImage().copy(part), d->matrix, &origin);
     if (image.isNull())
         return;
     const QPixmap turned(image);

@@ -35,10 +35,7 @@ void QPainter::fillRect(int x, int y, int w, int h, const QBrush& brush)
         return;
     const QRect rect = mirroredRect(x, y, w, h);
     const x11::GcSlot* gc = x11::gcFor(d->brushKey(brush));
-    if (d->mapsRectsToRects())
-        d->fillDeviceRect(d->mapRect(rect), gc);
-    else
-        d->fillTurnedRect(rect, gc);
+    d->fillMappedRect(rect, gc);
 }
 
 void QPainter::eraseRect(int x, int y, int w, int h)

@@ -1,28 +1,16 @@
-// Fonts through Xft: finding, measuring, drawing.
-// Before xlib.h, which removes macros that this header needs.
-#include <X11/Xft/Xft.h>
-
-#include "x11/fonts.h"
+// Fonts through Xft: finding and measuring.
+#include "x11/fontface.h"
 #include "x11/xlib.h"
 
 #include <algorithm>
 #include <map>
 #include <memory>
 #include <tuple>
-#include <unordered_map>
 
 namespace zeltk
 {
 namespace x11
 {
-
-class Font
-{
-public:
-    XftFont* face;
-    int pixelSize;
-    mutable std::unordered_map<char16_t, GlyphBox> boxes;
-};
 
 namespace
 {
@@ -52,11 +40,6 @@ FcPattern* patternOf(const FontRequest& request)
 
 using Key = std::tuple<std::vector<std::string>, int, int, bool, bool>;
 
-bool isBoxed(const Font* font, char16_t c)
-{
-    return c >= 0x20 && !XftCharExists(display(), font->face, c);
-}
-
 // The box that stands for a character that no font has.
 GlyphBox missingBox(const Font* font)
 {
@@ -65,83 +48,12 @@ GlyphBox missingBox(const Font* font)
     return {1, -height, std::max(side - 2, 1), height, side};
 }
 
-// One drawing context is enough: text goes to one drawable for a while.
-struct Target {
-    XftDraw* draw = nullptr;
-    XId drawable = 0;
-    bool bitmap = false;
-};
-
-Target& target()
-{
-    static Target t;
-    return t;
-}
-
-XftDraw* drawOn(XId drawable, bool bitmap)
-{
-    Target& t = target();
-    if (t.draw && t.drawable == drawable && t.bitmap == bitmap)
-        return t.draw;
-    if (t.draw)
-        XftDrawDestroy(t.draw);
-    t.draw = bitmap ? XftDrawCreateBitmap(display(), drawable)
-                    : XftDrawCreate(display(), drawable, DefaultVisual(display(), screen()),
-                                    DefaultColormap(display(), screen()));
-    t.drawable = drawable;
-    t.bitmap = bitmap;
-    return t.draw;
-}
-
-XftColor colorOfText(std::uint32_t rgb)
-{
-    XftColor color;
-    color.pixel = 0;
-    color.color.red = static_cast<unsigned short>((rgb >> 16 & 0xff) * 0x101);
-    color.color.green = static_cast<unsigned short>((rgb >> 8 & 0xff) * 0x101);
-    color.color.blue = static_cast<unsigned short>((rgb & 0xff) * 0x101);
-    color.color.alpha = 0xffff;
-    return color;
-}
-
-void setClip(XftDraw* draw, const std::vector<ClipRect>* clip)
-{
-    if (!clip) {
-        XftDrawSetClip(draw, nullptr);
-        return;
-    }
-    std::vector<XRectangle> rects;
-    for (const ClipRect& r : *clip)
-        rects.push_back({static_cast<short>(r.x), static_cast<short>(r.y),
-                         static_cast<unsigned short>(r.width), static_cast<unsigned short>(r.height)});
-    XftDrawSetClipRectangles(draw, 0, 0, rects.data(), static_cast<int>(rects.size()));
-}
-
-// Each character stands where the widths of those before it, whole pixels all, put it.
-void drawGlyphs(XftDraw* draw, const Font* font, const XftColor& color, int x, int y, const char16_t* text,
-                size_t length)
-{
-    std::vector<XftGlyphSpec> glyphs;
-    for (size_t i = 0; i < length; ++i) {
-        const GlyphBox box = glyphBox(font, text[i]);
-        if (isBoxed(font, text[i])) {
-            const auto width = static_cast<unsigned>(box.width);
-            const auto height = static_cast<unsigned>(box.height);
-            XftDrawRect(draw, &color, x + box.x, y + box.y, width, 1);
-            XftDrawRect(draw, &color, x + box.x, y - 1, width, 1);
-            XftDrawRect(draw, &color, x + box.x, y + box.y, 1, height);
-            XftDrawRect(draw, &color, x + box.x + box.width - 1, y + box.y, 1, height);
-        } else {
-            glyphs.push_back(
-                {XftCharIndex(display(), font->face, text[i]), static_cast<short>(x), static_cast<short>(y)});
-        }
-        x += box.advance;
-    }
-    if (!glyphs.empty())
-        XftDrawGlyphSpec(draw, &color, font->face, glyphs.data(), static_cast<int>(glyphs.size()));
-}
-
 } // namespace
+
+bool isBoxed(const Font* font, char16_t c)
+{
+    return c >= 0x20 && !XftCharExists(display(), font->face, c);
+}
 
 const Font* openFont(const FontRequest& request)
 {
@@ -235,54 +147,6 @@ int textWidth(const Font* font, const char16_t* text, size_t length)
     for (size_t i = 0; i < length; ++i)
         width += glyphBox(font, text[i]).advance;
     return width;
-}
-
-void drawText(XId drawable, bool bitmap, const Font* font, int x, int y, const char16_t* text, size_t length,
-              std::uint32_t color, const std::vector<ClipRect>* clip)
-{
-    if (!font)
-        return;
-    XftDraw* draw = drawOn(drawable, bitmap);
-    setClip(draw, clip);
-    XftColor ink = colorOfText(color);
-    if (bitmap)
-        ink.color.alpha = color ? 0xffff : 0;
-    drawGlyphs(draw, font, ink, x, y, text, length);
-}
-
-XId textMask(const Font* font, int width, int height, int x, int y, const char16_t* text, size_t length)
-{
-    const auto w = static_cast<unsigned>(width);
-    const auto h = static_cast<unsigned>(height);
-    const Pixmap canvas = XCreatePixmap(display(), rootWindow(), w, h, static_cast<unsigned>(depth()));
-    XGCValues values;
-    values.foreground = BlackPixel(display(), screen());
-    const GC gc = XCreateGC(display(), canvas, GCForeground, &values);
-    XFillRectangle(display(), canvas, gc, 0, 0, w, h);
-    XFreeGC(display(), gc);
-    drawText(canvas, false, font, x, y, text, length, 0xffffff, nullptr);
-    XImage* image = XGetImage(display(), canvas, 0, 0, w, h, AllPlanes, ZPixmap);
-    forgetDrawable(canvas);
-    XFreePixmap(display(), canvas);
-
-    const unsigned rowBytes = (w + 7) / 8;
-    std::vector<char> bits(rowBytes * h, 0);
-    for (unsigned row = 0; image && row < h; ++row)
-        for (unsigned column = 0; column < w; ++column)
-            if ((XGetPixel(image, static_cast<int>(column), static_cast<int>(row)) & 0xff) >= 128)
-                bits[row * rowBytes + column / 8] |= static_cast<char>(1 << column % 8);
-    if (image)
-        XDestroyImage(image);
-    return XCreateBitmapFromData(display(), rootWindow(), bits.data(), w, h);
-}
-
-void forgetDrawable(XId drawable)
-{
-    Target& t = target();
-    if (!t.draw || t.drawable != drawable)
-        return;
-    XftDrawDestroy(t.draw);
-    t.draw = nullptr;
 }
 
 } // namespace x11

@@ -1,11 +1,10 @@
-// Fonts through Xft: finding, measuring, drawing.
+// Fonts through Xft: finding and measuring.
 #ifndef ZELTK_X11_FONTS_H
 #define ZELTK_X11_FONTS_H
 
 #include "x11/connection.h"
 
 #include <cstddef>
-#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -30,13 +29,6 @@ struct GlyphBox {
     int advance;
 };
 
-struct ClipRect {
-    int x;
-    int y;
-    int width;
-    int height;
-};
-
 class Font;
 
 // Fonts are opened once and kept. Needs a connection.
@@ -55,15 +47,6 @@ bool hasGlyph(const Font* font, char16_t c);
 // Measures are cached; they cost no request.
 GlyphBox glyphBox(const Font* font, char16_t c);
 int textWidth(const Font* font, const char16_t* text, size_t length);
-
-// Draws with the pen at (x, y) in the colour 0xRRGGBB. `bitmap`: the drawable has depth 1, and the colour is
-// 0 or 1. A null clip means all of the drawable.
-void drawText(XId drawable, bool bitmap, const Font* font, int x, int y, const char16_t* text, size_t length,
-              std::uint32_t color, const std::vector<ClipRect>* clip);
-// A new bitmap of that size with the pixels that the text covers by half or more; the caller frees it.
-XId textMask(const Font* font, int width, int height, int x, int y, const char16_t* text, size_t length);
-// Must be called before a drawable is freed.
-void forgetDrawable(XId drawable);
 
 } // namespace x11
 } // namespace zeltk

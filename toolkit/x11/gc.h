@@ -3,7 +3,7 @@
 #define ZELTK_X11_GC_H
 
 #include "x11/connection.h"
-#include "x11/fonts.h"
+#include "x11/cliprect.h"
 
 #include <memory>
 #include <vector>

@@ -2,8 +2,8 @@
 #include "x11/pixmap.h"
 
 #include "x11/colors.h"
-#include "x11/fonts.h"
 #include "x11/gc.h"
+#include "x11/textdraw.h"
 #include "x11/xlib.h"
 
 #include <cstdlib>

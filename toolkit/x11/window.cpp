@@ -3,6 +3,7 @@
 
 #include "x11/colors.h"
 #include "x11/gc.h"
+#include "x11/textdraw.h"
 #include "x11/xlib.h"
 
 namespace zeltk

@@ -1,0 +1,31 @@
+// What a font is made of. Only for the sources of this folder, and included before xlib.h, which removes
+// macros that Xft's header needs.
+#ifndef ZELTK_X11_FONTFACE_H
+#define ZELTK_X11_FONTFACE_H
+
+#include <X11/Xft/Xft.h>
+
+#include "x11/fonts.h"
+
+#include <unordered_map>
+
+namespace zeltk
+{
+namespace x11
+{
+
+class Font
+{
+public:
+    XftFont* face;
+    int pixelSize;
+    mutable std::unordered_map<char16_t, GlyphBox> boxes;
+};
+
+// Whether the font lacks the character, so that a box is drawn in its place.
+bool isBoxed(const Font* font, char16_t c);
+
+} // namespace x11
+} // namespace zeltk
+
+#endif
