@@ -66,6 +66,7 @@ QWidget* keyReceiver(QWidget* window);
 bool activateAccelerator(QWidget* window, QKeyEvent* key);
 // The Qt code of an X key symbol; 0 for none.
 int keyCode(unsigned long keysym);
+void tellWindowsOfLanguage();
 void connectPainting();
 
 } // namespace zeltk

@@ -7,13 +7,14 @@
 
 #include <algorithm>
 #include <list>
+#include <vector>
 
 namespace
 {
 
 struct Posted {
     QObject* receiver;
-    QEvent* event; // null while it is delivered
+    QEvent* event;
 };
 
 std::list<Posted>& queue()
@@ -38,7 +39,8 @@ QEvent* merged(QEvent* before, QEvent* now)
         return new QResizeEvent(static_cast<QResizeEvent*>(now)->size(),
                                 static_cast<QResizeEvent*>(before)->oldSize());
     case QEvent::LayoutHint:
-        return new QEvent(QEvent::LayoutHint);
+    case QEvent::LanguageChange:
+        return new QEvent(now->type());
     default:
         return nullptr;
     }
@@ -49,7 +51,7 @@ QEvent* merged(QEvent* before, QEvent* now)
 bool joinsEarlier(QObject* receiver, QEvent* event)
 {
     for (Posted& posted : queue()) {
-        if (posted.receiver != receiver || !posted.event || posted.event->type() != event->type())
+        if (posted.receiver != receiver || posted.event->type() != event->type())
             continue;
         QEvent* both = merged(posted.event, event);
         if (!both)
@@ -72,11 +74,20 @@ void deliver(QObject* receiver, QEvent* event)
     QApplication::sendEvent(receiver, event);
 }
 
+std::vector<const QEvent*> queuedPaints()
+{
+    std::vector<const QEvent*> paints;
+    for (const Posted& posted : queue())
+        if (posted.event->type() == QEvent::Paint)
+            paints.push_back(posted.event);
+    return paints;
+}
+
 template <typename Condition>
 void removeIf(Condition condition)
 {
     for (auto it = queue().begin(); it != queue().end();) {
-        if (it->event && condition(*it)) {
+        if (condition(*it)) {
             delete it->event;
             it = queue().erase(it);
         } else {
@@ -130,25 +141,33 @@ void QApplication::sendPostedEvents()
     sendPostedEvents(nullptr, 0);
 }
 
-// Only what was there at the beginning: events that are posted meanwhile wait for the next time. The queue
-// may change in any way while an event is delivered, so the search begins anew after each.
+// Also what is posted meanwhile, but for what the last event brings, which waits for the next time, and for
+// paint events: widgets that update themselves whenever they paint must not keep the loop from all else. The
+// queue may change in any way while an event is delivered, so the search begins anew after each. Children and
+// their layouts come first, so that all others meet a settled tree.
 void QApplication::sendPostedEvents(QObject* receiver, int type)
 {
-    std::vector<QEvent*> waiting;
-    for (const Posted& posted : queue())
-        if (posted.event && (!receiver || posted.receiver == receiver) &&
-            (!type || posted.event->type() == type))
-            waiting.push_back(posted.event);
-    for (QEvent* event : waiting) {
-        const auto place = std::find_if(queue().begin(), queue().end(),
-                                        [event](const Posted& p) { return p.event == event; });
+    if (type == 0) {
+        sendPostedEvents(receiver, QEvent::ChildInserted);
+        sendPostedEvents(receiver, QEvent::LayoutHint);
+    }
+    const std::vector<const QEvent*> paints = queuedPaints();
+    const auto isWanted = [&](const Posted& p) {
+        return (!receiver || p.receiver == receiver) && (!type || p.event->type() == type) &&
+               (p.event->type() != QEvent::Paint ||
+                std::find(paints.begin(), paints.end(), p.event) != paints.end());
+    };
+    const auto isReceivers = [receiver](const Posted& p) { return !receiver || p.receiver == receiver; };
+    for (bool last = false; !last;) {
+        const auto place = std::find_if(queue().begin(), queue().end(), isWanted);
         if (place == queue().end())
-            continue;
-        QObject* target = place->receiver;
+            return;
+        last = std::none_of(std::next(place), queue().end(), isReceivers);
+        const Posted posted = *place;
         queue().erase(place);
-        zeltk::EventAccess::setPosted(event, false);
-        deliver(target, event);
-        delete event;
+        zeltk::EventAccess::setPosted(posted.event, false);
+        deliver(posted.receiver, posted.event);
+        delete posted.event;
     }
 }
 

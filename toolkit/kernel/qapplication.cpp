@@ -120,6 +120,8 @@ void QApplication::construct(int& argc, char** argv, Type type)
     app->closing = false;
     qApp = this;
     app->loop = new QEventLoop(this, "eventloop");
+    if (type != Tty)
+        app->desktop = new QDesktopWidget;
 }
 
 // Windows that are left go with the connection.
@@ -379,6 +381,10 @@ bool QApplication::event(QEvent* event)
         QCloseEvent* close = static_cast<QCloseEvent*>(event);
         close->accept();
         closeAllWindows();
+        return true;
+    }
+    if (event->type() == QEvent::LanguageChange) {
+        zeltk::tellWindowsOfLanguage();
         return true;
     }
     return QObject::event(event);

@@ -1,11 +1,17 @@
 // The events.
 #include <qevent.h>
 
+#include <vector>
+
 namespace
 {
 
-QFocusEvent::Reason focusReason = QFocusEvent::Other;
-QFocusEvent::Reason focusReasonBefore = QFocusEvent::Other;
+// The last one counts; handlers may set another one for a while.
+std::vector<QFocusEvent::Reason>& focusReasons()
+{
+    static auto* const reasons = new std::vector<QFocusEvent::Reason>;
+    return *reasons;
+}
 
 // The state bit of a modifier key; 0 for other keys.
 int modifierOf(int key)
@@ -54,16 +60,16 @@ Qt::ButtonState QKeyEvent::stateAfter() const
 
 QFocusEvent::Reason QFocusEvent::reason()
 {
-    return focusReason;
+    return focusReasons().empty() ? Other : focusReasons().back();
 }
 
 void QFocusEvent::setReason(Reason reason)
 {
-    focusReasonBefore = focusReason;
-    focusReason = reason;
+    focusReasons().push_back(reason);
 }
 
 void QFocusEvent::resetReason()
 {
-    focusReason = focusReasonBefore;
+    if (!focusReasons().empty())
+        focusReasons().pop_back();
 }

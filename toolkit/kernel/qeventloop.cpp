@@ -22,7 +22,7 @@ namespace zeltk
 struct EventLoopState {
     int level = 0;
     bool leaveLoop = false; // the innermost one
-    bool quit = false;      // all of them
+    bool quit = false;      // all of them; until the next one begins
     int result = 0;
     int wakeUpPipe[2] = {-1, -1};
 };
@@ -51,7 +51,7 @@ bool QEventLoop::hasPendingEvents() const
 // What the program has queued comes first, then what the X server and the clock bring.
 bool QEventLoop::processEvents(ProcessEventsFlags flags)
 {
-    bool found = zeltk::hasPostedEvents();
+    bool found = false;
     QApplication::sendPostedEvents();
     if (x11::connected()) {
         while (zeltk::dispatchEvents())
@@ -90,10 +90,8 @@ void QEventLoop::processEvents(ProcessEventsFlags flags, int maxtime)
 
 int QEventLoop::exec()
 {
-    d->quit = false;
     d->result = 0;
     enterLoop();
-    d->quit = false;
     return d->result;
 }
 
@@ -110,6 +108,8 @@ int QEventLoop::enterLoop()
 {
     const bool outer = d->leaveLoop;
     d->leaveLoop = false;
+    if (d->level == 0)
+        d->quit = false;
     ++d->level;
     while (!d->leaveLoop && !d->quit)
         processEvents(AllEvents | WaitForMore);

@@ -1,6 +1,8 @@
 // QTranslator and its messages.
 #include <qtranslator.h>
 
+#include <qapplication.h>
+
 #include <set>
 #include <tuple>
 
@@ -79,6 +81,8 @@ QTranslator::QTranslator(QObject* parent, const char* name)
 
 QTranslator::~QTranslator()
 {
+    if (qApp)
+        qApp->removeTranslator(this);
     delete d;
 }
 

@@ -17,12 +17,10 @@ QString decoded(const char* text, bool utf8)
     return utf8 ? QString::fromUtf8(text) : QString(text);
 }
 
-// Each window passes it on to its children.
+// Several changes in a row become one.
 void tellLanguageChange()
 {
-    for (QWidget* widget : zeltk::everyWidget())
-        if (widget->isTopLevel())
-            QApplication::postEvent(widget, new QEvent(QEvent::LanguageChange));
+    QApplication::postEvent(qApp, new QEvent(QEvent::LanguageChange));
 }
 
 } // namespace
@@ -36,6 +34,14 @@ QString translated(const char* context, const char* text, const char* comment, b
         return decoded(text, utf8);
     return qApp->translate(context, text, comment,
                            utf8 ? QApplication::UnicodeUTF8 : QApplication::DefaultCodec);
+}
+
+// Each window passes it on to its children.
+void tellWindowsOfLanguage()
+{
+    for (QWidget* widget : everyWidget())
+        if (widget->isTopLevel())
+            QApplication::postEvent(widget, new QEvent(QEvent::LanguageChange));
 }
 
 } // namespace zeltk

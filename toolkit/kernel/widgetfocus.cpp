@@ -171,8 +171,6 @@ void widgetDisabled(QWidget* widget)
 void widgetDestroyed(QWidget* widget)
 {
     ApplicationData* app = application();
-    if (widget->hasFocus())
-        widget->clearFocus();
     widgetHidden(widget);
     forgetHovered(widget);
     removeFrom(&app->popups, widget);
