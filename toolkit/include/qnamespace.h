@@ -406,6 +406,18 @@ public:
         WindowFullScreen = 0x00000004,
         WindowActive = 0x00000008
     };
+
+    enum DateFormat { TextDate, ISODate, LocalDate };
+
+    //! How texts are searched for.
+    enum StringComparisonMode {
+        CaseSensitive = 0x00001,
+        BeginsWith = 0x00002,
+        EndsWith = 0x00004,
+        Contains = 0x00008,
+        ExactMatch = 0x00010
+    };
+    typedef uint ComparisonFlags;
 };
 
 #endif
