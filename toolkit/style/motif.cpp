@@ -4,6 +4,7 @@
 #include <qbitmap.h>
 #include <qpainter.h>
 #include <qpalette.h>
+#include <qwidget.h>
 
 namespace zeltk
 {
@@ -19,6 +20,11 @@ int shortcutOf(const QString& text)
             return Qt::ALT + letter.upper().unicode();
     }
     return 0;
+}
+
+QSize labelSize(const QWidget* widget, const QString& text, const QPixmap* pixmap)
+{
+    return pixmap ? pixmap->size() : widget->fontMetrics().size(Qt::ShowPrefix, text);
 }
 
 void drawText(QPainter* p, const QRect& r, int flags, const QColorGroup& g, bool, const QString& text,
@@ -44,6 +50,13 @@ void drawPixmap(QPainter* p, const QRect& r, int flags, const QColorGroup& g, bo
     p->drawPixmap(place, pixmap);
     if (!enabled)
         p->fillRect(QRect(place, pixmap.size()), QBrush(g.background(), Qt::Dense4Pattern));
+}
+
+void drawFocusFrame(QPainter* p, const QRect& r, const QColorGroup& g)
+{
+    p->setPen(g.foreground());
+    p->setBrush(Qt::NoBrush);
+    p->drawRect(r);
 }
 
 } // namespace motif
