@@ -45,7 +45,7 @@ signals:
     void aboutToBlock();
 
 private:
-    void waitForEvents();
+    void waitForEvents(ProcessEventsFlags flags);
 
     zeltk::EventLoopState* d;
 

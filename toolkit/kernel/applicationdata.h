@@ -57,7 +57,7 @@ struct EventAccess {
 // Sends an event that came from the X server.
 bool sendSpontaneous(QObject* receiver, QEvent* event);
 // Hands out what has come from the X server; false if there was nothing.
-bool dispatchEvents();
+bool dispatchEvents(bool withInput);
 void setActive(QWidget* window);
 void moveFocus(QWidget* widget, QFocusEvent::Reason reason);
 // The one who gets the keys in this window.

@@ -111,10 +111,10 @@ bool isInside(const QWidget* widget, const QWidget* ancestor)
     return false;
 }
 
-bool dispatchEvents()
+bool dispatchEvents(bool withInput)
 {
     x11::Event event;
-    if (!x11::nextEvent(&event))
+    if (!x11::nextEvent(&event, withInput))
         return false;
     QWidget* widget = QWidget::find(event.window);
     if (!widget)

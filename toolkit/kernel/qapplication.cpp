@@ -18,6 +18,7 @@
 #include <qwidgetlist.h>
 
 #include <algorithm>
+#include <clocale>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -109,6 +110,7 @@ void QApplication::construct(int& argc, char** argv, Type type)
     const char* program = argc > 0 && argv[0] ? baseName(argv[0]) : "program";
     setName(program);
     const std::string display = readCommandLine(&argc, argv);
+    std::setlocale(LC_CTYPE, ""); // the input method's language is the user's
     if (type != Tty)
         connectToServer(program, display);
     x11::setErrorHandler(warnOfXError);
@@ -134,7 +136,7 @@ QApplication::~QApplication()
     app->translators.clear();
     app->loop = nullptr;
     qApp = nullptr;
-    if (zeltk::everyWidget().empty() && x11::connected())
+    if (x11::connected())
         x11::flush();
 }
 

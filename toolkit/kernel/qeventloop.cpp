@@ -45,7 +45,7 @@ QEventLoop::~QEventLoop()
 
 bool QEventLoop::hasPendingEvents() const
 {
-    return zeltk::hasPostedEvents() || (x11::connected() && x11::eventsPending());
+    return zeltk::hasPostedEvents() || (x11::connected() && x11::eventsPending(true));
 }
 
 // What the program has queued comes first, then what the X server and the clock bring.
@@ -54,21 +54,21 @@ bool QEventLoop::processEvents(ProcessEventsFlags flags)
     bool found = false;
     QApplication::sendPostedEvents();
     if (x11::connected()) {
-        while (zeltk::dispatchEvents())
+        while (zeltk::dispatchEvents(!(flags & ExcludeUserInput)))
             found = true;
     }
     found = zeltk::fireTimers() || found;
     if (found || !(flags & WaitForMore) || d->leaveLoop || d->quit)
         return found;
-    waitForEvents();
+    waitForEvents(flags);
     return true;
 }
 
-void QEventLoop::waitForEvents()
+void QEventLoop::waitForEvents(ProcessEventsFlags flags)
 {
     if (x11::connected())
         x11::flush();
-    if (hasPendingEvents())
+    if (zeltk::hasPostedEvents() || (x11::connected() && x11::eventsPending(!(flags & ExcludeUserInput))))
         return;
     aboutToBlock();
     pollfd watched[2] = {{d->wakeUpPipe[0], POLLIN, 0},

@@ -2,7 +2,6 @@
 #include "x11/connection.h"
 
 #include "x11/errors.h"
-#include "x11/selection.h"
 #include "x11/xlib.h"
 
 #include <map>
@@ -33,19 +32,12 @@ std::map<std::string, Atom>& atoms()
 
 bool openConnection(const std::string& name)
 {
+    if (server)
+        return true;
     server = XOpenDisplay(name.empty() ? nullptr : name.c_str());
     if (server)
         watchErrors();
     return server != nullptr;
-}
-
-void closeConnection()
-{
-    if (server)
-        XCloseDisplay(server);
-    server = nullptr;
-    atoms().clear();
-    forgetSelections();
 }
 
 bool connected()

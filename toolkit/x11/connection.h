@@ -15,9 +15,9 @@ namespace x11
 // A window, pixmap or any other server resource, as Qt::HANDLE shows it.
 typedef unsigned long XId;
 
-// Opens the connection. An empty name means $DISPLAY. Returns false when no server answers.
+// Opens the connection, once: it lasts as long as the program. An empty name means $DISPLAY. Returns false when no
+// server answers.
 bool openConnection(const std::string& displayName);
-void closeConnection();
 bool connected();
 
 // Null while there is no connection.

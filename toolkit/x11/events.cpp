@@ -1,8 +1,11 @@
 // Events of the X server in plain form.
 #include "x11/events.h"
 
+#include "x11/keys.h"
 #include "x11/selection.h"
 #include "x11/xlib.h"
+
+#include <deque>
 
 namespace zeltk
 {
@@ -14,6 +17,7 @@ namespace
 
 unsigned long latest = 0;
 unsigned long serial = 0;
+std::deque<Event> keptInput;
 
 void noteTime(unsigned long time, Event* event)
 {
@@ -33,21 +37,6 @@ bool isRepeat(const XKeyEvent& key)
            next.xkey.time - key.time < 2;
 }
 
-std::string utf8FromLatin1(const char* text, int length)
-{
-    std::string result;
-    for (int i = 0; i < length; ++i) {
-        const unsigned char c = static_cast<unsigned char>(text[i]);
-        if (c < 0x80) {
-            result += static_cast<char>(c);
-        } else {
-            result += static_cast<char>(0xc0 | c >> 6);
-            result += static_cast<char>(0x80 | (c & 0x3f));
-        }
-    }
-    return result;
-}
-
 void readKey(XKeyEvent* key, Event* event)
 {
     static unsigned repeating = 0; // code of the key that is held
@@ -56,11 +45,9 @@ void readKey(XKeyEvent* key, Event* event)
     event->state = key->state;
     event->rootX = key->x_root;
     event->rootY = key->y_root;
-    char text[64];
-    KeySym symbol = 0;
-    const int length = XLookupString(key, text, sizeof text, &symbol, nullptr);
-    event->keysym = symbol;
-    event->text = utf8FromLatin1(text, length);
+    const KeyMeaning meaning = meaningOf(reinterpret_cast<XEvent*>(key));
+    event->keysym = meaning.symbol;
+    event->text = meaning.text;
     if (key->type == XKeyRelease) {
         event->autoRepeat = isRepeat(*key);
         repeating = event->autoRepeat ? key->keycode : 0;
@@ -211,22 +198,30 @@ void translate(XEvent* x, Event* event)
 
 } // namespace
 
-bool eventsPending()
+bool eventsPending(bool withInput)
 {
-    return XPending(display()) > 0;
+    return (withInput && !keptInput.empty()) || XPending(display()) > 0;
 }
 
-bool nextEvent(Event* event)
+bool nextEvent(Event* event, bool withInput)
 {
-    if (!eventsPending())
-        return false;
-    XEvent x;
-    XNextEvent(display(), &x);
-    serial = x.xany.serial;
-    *event = Event();
-    if (!XFilterEvent(&x, XNone) && !handleSelectionEvent(&x))
-        translate(&x, event);
-    return true;
+    if (withInput && !keptInput.empty()) {
+        *event = keptInput.front();
+        keptInput.pop_front();
+        return true;
+    }
+    while (XPending(display()) > 0) {
+        XEvent x;
+        XNextEvent(display(), &x);
+        *event = Event();
+        serial = x.xany.serial;
+        if (!filteredByInputMethod(&x) && !handleSelectionEvent(&x))
+            translate(&x, event);
+        if (withInput || event->type == Event::Other || event->type > Event::LeaveWindow)
+            return true;
+        keptInput.push_back(*event);
+    }
+    return false;
 }
 
 void compressMotion(Event* event)

@@ -49,9 +49,10 @@ struct Event {
     bool autoRepeat = false;
 };
 
-// Takes the next event from the connection without waiting; false if there is none.
-bool nextEvent(Event* event);
-bool eventsPending();
+// Takes the next event from the connection without waiting; false if there is none. Without input, what the
+// user does is kept for later.
+bool nextEvent(Event* event, bool withInput);
+bool eventsPending(bool withInput);
 // Takes motions that follow right behind one of the same window, and keeps the last.
 void compressMotion(Event* event);
 // Takes the crossings that follow and tells the window that was entered at last; 0 if there is none.

@@ -251,12 +251,5 @@ void serveRequests()
         handleSelectionEvent(&event);
 }
 
-void forgetSelections()
-{
-    primary = clipboard = Owned();
-    transfers.clear();
-    window = 0;
-}
-
 } // namespace x11
 } // namespace zeltk

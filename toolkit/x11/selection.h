@@ -30,8 +30,6 @@ void setSelectionLostHandler(SelectionLostHandler handler);
 
 // Deals with events that concern selections; false for others.
 bool handleSelectionEvent(_XEvent* event);
-// Everything of a connection that ends.
-void forgetSelections();
 
 } // namespace x11
 } // namespace zeltk
