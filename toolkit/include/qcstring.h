@@ -73,6 +73,9 @@ public:
     QCString& prepend(const char* text) { return insert(0, text); }
     QCString& remove(uint index, uint length);
     QCString& replace(uint index, uint length, const char* text);
+    QCString& replace(char before, const char* after);
+    QCString& replace(const char* before, const char* after);
+    QCString& replace(char before, char after);
 
     short toShort(bool* ok = 0) const;
     ushort toUShort(bool* ok = 0) const;

@@ -18,8 +18,8 @@ public:
     int minute() const;
     int second() const;
     int msec() const;
-    //! "hh:mm:ss"
-    QString toString() const;
+    //! "hh:mm:ss"; LocalDate as the user's locale writes it. Null for an invalid time.
+    QString toString(Qt::DateFormat format = Qt::TextDate) const;
     //! False, and the time becomes invalid, when the numbers make no time.
     bool setHMS(int hour, int minute, int second, int msec = 0);
 

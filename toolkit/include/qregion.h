@@ -46,6 +46,8 @@ public:
     QRect boundingRect() const;
     //! Rectangles that do not overlap, from top to bottom and left to right.
     QMemArray<QRect> rects() const;
+    //! Makes the region of rectangles as rects() gives them.
+    void setRects(const QRect* rects, int number);
 
     const QRegion operator|(const QRegion& other) const { return unite(other); }
     const QRegion operator+(const QRegion& other) const { return unite(other); }

@@ -170,6 +170,14 @@ QMemArray<QRect> QRegion::rects() const
     return result;
 }
 
+void QRegion::setRects(const QRect* rects, int number)
+{
+    QRegion result;
+    for (int i = 0; i < number; ++i)
+        result |= QRegion(rects[i]);
+    *this = result;
+}
+
 bool QRegion::operator==(const QRegion& other) const
 {
     return d == other.d || d->bands == other.d->bands;

@@ -65,7 +65,10 @@ bool QChar::isSpace() const
 
 bool QChar::isMark() const
 {
-    return wcwidth(ucs) == 0 && ucs >= 0x300;
+    const locale_t before = uselocale(unicodeLocale());
+    const bool takesNoRoom = wcwidth(ucs) == 0;
+    uselocale(before);
+    return takesNoRoom && ucs >= 0x300;
 }
 
 bool QChar::isLetter() const
@@ -84,7 +87,6 @@ bool QChar::isNumber() const
            (ucs >= 0x2150 && ucs <= 0x218b) || (ucs >= 0x2460 && ucs <= 0x249b);
 }
 
-// The underscore counts, as in the names of programming languages.
 bool QChar::isLetterOrNumber() const
 {
     return isLetter() || isNumber();

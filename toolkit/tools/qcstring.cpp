@@ -271,6 +271,30 @@ QCString& QCString::replace(uint index, uint count, const char* text)
     return insert(index, text);
 }
 
+QCString& QCString::replace(const char* before, const char* after)
+{
+    const std::string search(before ? before : ""), replacement(after ? after : "");
+    if (search.empty() || find(search.c_str()) < 0)
+        return *this;
+    std::string text = textOf(*this);
+    for (size_t place = 0; (place = text.find(search, place)) != std::string::npos;
+         place += replacement.size())
+        text.replace(place, search.size(), replacement);
+    return *this = text.c_str();
+}
+
+QCString& QCString::replace(char before, const char* after)
+{
+    const char search[2] = {before, '\0'};
+    return replace(search, after);
+}
+
+QCString& QCString::replace(char before, char after)
+{
+    const char replacement[2] = {after, '\0'};
+    return replace(before, replacement);
+}
+
 short QCString::toShort(bool* ok) const
 {
     return parsed<short>(*this, ok);

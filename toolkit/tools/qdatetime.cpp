@@ -55,10 +55,19 @@ int QTime::msec() const
     return ds % 1000;
 }
 
-QString QTime::toString() const
+QString QTime::toString(Qt::DateFormat format) const
 {
     if (!isValid())
         return QString::null;
+    if (format == Qt::LocalDate) {
+        tm local = {};
+        local.tm_hour = hour();
+        local.tm_min = minute();
+        local.tm_sec = second();
+        char formatted[80];
+        return QString::fromLocal8Bit(std::strftime(formatted, sizeof formatted, "%X", &local) ? formatted
+                                                                                               : "");
+    }
     QString text;
     text.sprintf("%.2d:%.2d:%.2d", hour(), minute(), second());
     return text;
