@@ -4,12 +4,9 @@
 
 #include <qwidget.h>
 
-class QPushButton;
-
 namespace zeltk
 {
 struct DialogData;
-struct DialogAccess;
 } // namespace zeltk
 
 //! Ends with a result. Escape rejects it, Return presses its default button.
@@ -27,16 +24,11 @@ public:
 
     void show();
     void hide();
-    //! A dialog that was moved or resized by the program stays where it is when it is shown.
+    //! A dialog that the program has placed stays there when it is shown.
     void move(int x, int y);
     void move(const QPoint& p);
-    void resize(int w, int h);
-    void resize(const QSize& size);
     void setGeometry(int x, int y, int w, int h);
     void setGeometry(const QRect& rect);
-
-    QSize sizeHint() const;
-    QSize minimumSizeHint() const;
 
     void setModal(bool modal);
     bool isModal() const;
@@ -54,16 +46,9 @@ protected:
     void setResult(int result);
     void keyPressEvent(QKeyEvent* event);
     void closeEvent(QCloseEvent* event);
-    void contextMenuEvent(QContextMenuEvent* event);
-    bool eventFilter(QObject* watched, QEvent* event);
     void adjustPosition(QWidget* anchor);
 
 private:
-    void setDefault(QPushButton* button);
-    void setMainDefault(QPushButton* button);
-    void hideDefault();
-
-    friend struct zeltk::DialogAccess;
     zeltk::DialogData* d;
 
     QDialog(const QDialog&);
