@@ -62,6 +62,7 @@ private slots:
 
 private:
     void contentsChanged();
+    void drawPicture(QPainter* p);
     void updateAccelerator();
     QSize sizeForWidth(int width) const;
 

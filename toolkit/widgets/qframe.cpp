@@ -7,15 +7,27 @@
 #include <qevent.h>
 #include <qpainter.h>
 
+namespace
+{
+
+constexpr int lineThickness = 3; // what lines ask for
+
+} // namespace
+
 QFrame::QFrame(QWidget* parent, const char* name, WFlags f)
     : QWidget(parent, name, f), fstyle(NoFrame | Plain), lwidth(1), mwidth(0), mgn(0)
 {
     zeltk::ensureStyled();
 }
 
+// Lines want no more room across than they need.
 void QFrame::setFrameStyle(int style)
 {
     fstyle = style;
+    if (frameShape() == HLine)
+        setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
+    else if (frameShape() == VLine)
+        setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Minimum);
     changed();
 }
 
@@ -94,15 +106,21 @@ QRect QFrame::contentsRect() const
 
 QSize QFrame::sizeHint() const
 {
+    if (frameShape() == HLine)
+        return QSize(-1, lineThickness);
+    if (frameShape() == VLine)
+        return QSize(lineThickness, -1);
     return QSize();
 }
 
-// A frame rectangle that was set keeps its distance from the right and lower edge.
+// A frame rectangle that was set keeps its distance from the right and lower edge; when nothing is left of it
+// the frame is around the whole widget again.
 void QFrame::resizeEvent(QResizeEvent* event)
 {
     if (!frect.isNull()) {
-        const QSize grown = event->size() - event->oldSize();
-        frect.setSize(frect.size() + grown);
+        frect.setSize(frect.size() + event->size() - event->oldSize());
+        if (!frect.isValid())
+            frect = QRect();
     }
     frameChanged();
 }
@@ -121,17 +139,44 @@ void QFrame::paintEvent(QPaintEvent* event)
 
 void QFrame::drawContents(QPainter*) {}
 
+namespace
+{
+
+void drawHorizontalLine(QPainter* p, const QFrame* frame, const QRect& r, const QColorGroup& g)
+{
+    const int y = r.y() + r.height() / 2;
+    const int width = frame->lineWidth();
+    if (frame->frameShadow() == QFrame::Plain)
+        p->fillRect(r.x(), y - width / 2, r.width(), width, g.foreground());
+    else
+        qDrawShadeLine(p, r.left(), y, r.right() + 1, y, g, frame->frameShadow() == QFrame::Sunken, width,
+                       frame->midLineWidth());
+}
+
+void drawVerticalLine(QPainter* p, const QFrame* frame, const QRect& r, const QColorGroup& g)
+{
+    const int x = r.x() + r.width() / 2;
+    const int width = frame->lineWidth();
+    if (frame->frameShadow() == QFrame::Plain)
+        p->fillRect(x - width / 2, r.y(), width, r.height(), g.foreground());
+    else
+        qDrawShadeLine(p, x, r.top(), x, r.bottom() + 1, g, frame->frameShadow() == QFrame::Sunken, width,
+                       frame->midLineWidth());
+}
+
+} // namespace
+
 void QFrame::drawFrame(QPainter* p)
 {
     const QRect r = frameRect();
     const QColorGroup& g = colorGroup();
     const bool sunken = frameShadow() == Sunken;
     const bool plain = frameShadow() == Plain;
-    const QPoint middle = r.center();
     switch (frameShape()) {
     case NoFrame:
         break;
     case Box:
+    case GroupBoxPanel:
         if (plain)
             qDrawPlainRect(p, r, g.foreground(), lwidth);
         else
@@ -144,19 +189,18 @@ void QFrame::drawFrame(QPainter* p)
             qDrawWinPanel(p, r, g, sunken);
         break;
     case HLine:
-        if (plain)
-            p->fillRect(r.x(), middle.y() - lwidth / 2, r.width(), lwidth, g.foreground());
-        else
-            qDrawShadeLine(p, r.left(), middle.y(), r.right() + 1, middle.y(), g, sunken, lwidth, mwidth);
+        drawHorizontalLine(p, this, r, g);
         break;
     case VLine:
-        if (plain)
-            p->fillRect(middle.x() - lwidth / 2, r.y(), lwidth, r.height(), g.foreground());
-        else
-            qDrawShadeLine(p, middle.x(), r.top(), middle.x(), r.bottom() + 1, g, sunken, lwidth, mwidth);
+        drawVerticalLine(p, this, r, g);
         break;
-    case GroupBoxPanel:
-        qDrawShadeRect(p, r, g, sunken, lwidth, mwidth);
+    case MenuBarPanel:
+    case ToolBarPanel:
+        qDrawShadePanel(p, r, g, false, lwidth);
+        break;
+    case LineEditPanel:
+    case TabWidgetPanel:
+        qDrawShadePanel(p, r, g, sunken, lwidth);
         break;
     default:
         if (plain)

@@ -5,7 +5,6 @@
 #include "style/motif.h"
 
 #include <qevent.h>
-#include <qimage.h>
 #include <qpainter.h>
 
 #include <algorithm>
@@ -225,7 +224,7 @@ int effectiveIndent(const QLabel* label)
 // Without a buddy a sign before a letter is a letter itself.
 int textFlags(const QLabel* label)
 {
-    return label->alignment() | Qt::ShowPrefix;
+    return label->buddy() ? label->alignment() | Qt::ShowPrefix : label->alignment();
 }
 
 } // namespace
@@ -277,6 +276,10 @@ void QLabel::fontChange(const QFont& oldFont)
 
 void QLabel::drawContents(QPainter* p)
 {
+    if (d->pixmap) {
+        drawPicture(p);
+        return;
+    }
     QRect r = contentsRect();
     const int indent = effectiveIndent(this);
     if ((d->align & AlignHCenter) == 0) {
@@ -289,19 +292,21 @@ void QLabel::drawContents(QPainter* p)
         r.setTop(r.top() + indent);
     else if (d->align & AlignBottom)
         r.setBottom(r.bottom() - indent);
-    if (!d->pixmap) {
-        zeltk::motif::drawText(p, r, textFlags(this), colorGroup(), isEnabled(), d->text,
-                               &paletteForegroundColor());
-        return;
-    }
-    QPixmap picture = *d->pixmap;
-    if (d->scaled && !r.isEmpty()) {
+    zeltk::motif::drawText(p, r, textFlags(this), colorGroup(), isEnabled(), d->text,
+                           &paletteForegroundColor());
+}
+
+void QLabel::drawPicture(QPainter* p)
+{
+    const QRect r = contentsRect();
+    const QPixmap& picture = *d->pixmap;
+    if (!d->scaled) {
+        zeltk::motif::drawPixmap(p, r, d->align, colorGroup(), isEnabled(), picture);
+    } else if (!r.isEmpty() && !picture.isNull()) {
         p->save();
         p->translate(r.x(), r.y());
         p->scale(double(r.width()) / picture.width(), double(r.height()) / picture.height());
         p->drawPixmap(0, 0, picture);
         p->restore();
-        return;
     }
-    zeltk::motif::drawPixmap(p, r, d->align, colorGroup(), isEnabled(), picture);
 }
