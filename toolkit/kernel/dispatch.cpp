@@ -14,8 +14,9 @@ namespace
 {
 
 // The window manager tells where the window is on the screen; the server tells where it is in its frame.
-void configured(QWidget* window, const x11::Event& e)
+void configured(QWidget* window, x11::Event e)
 {
+    x11::compressConfigured(&e);
     QPoint pos(e.x, e.y);
     const bool framed = window->geometry().topLeft() != window->frameGeometry().topLeft();
     int x = 0;

@@ -237,6 +237,15 @@ void compressMotion(Event* event)
     }
 }
 
+void compressConfigured(Event* event)
+{
+    XEvent next;
+    while (XCheckTypedWindowEvent(display(), event->window, ConfigureNotify, &next)) {
+        serial = next.xany.serial;
+        readConfigure(next.xconfigure, event);
+    }
+}
+
 XId takeEntered()
 {
     XId entered = 0;

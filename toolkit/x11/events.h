@@ -55,6 +55,8 @@ bool nextEvent(Event* event, bool withInput);
 bool eventsPending(bool withInput);
 // Takes motions that follow right behind one of the same window, and keeps the last.
 void compressMotion(Event* event);
+// Takes all changes of the same window's geometry that have come already, and keeps the last.
+void compressConfigured(Event* event);
 // Takes the crossings that follow and tells the window that was entered at last; 0 if there is none.
 XId takeEntered();
 // The time of the last event that had one.
