@@ -28,7 +28,7 @@ bool anyButton(unsigned state)
 
 bool takesPointer(QWidget* widget)
 {
-    return widget->isEnabled() && !blockedByModal(widget);
+    return widget->isVisible() && widget->isEnabled() && !blockedByModal(widget);
 }
 
 struct LastClick {
@@ -125,7 +125,7 @@ void pressBesidePopup(QWidget* popup, QWidget* beneath, const x11::Event& e)
 {
     const QGuardedPtr<QWidget> alive(beneath);
     press(popup, QEvent::MouseButtonPress, e);
-    if (!application()->popups.empty() || alive.isNull() || !beneath->isVisible() || !takesPointer(beneath))
+    if (!application()->popups.empty() || alive.isNull() || !takesPointer(beneath))
         return;
     application()->pressed = beneath;
     focusBy(beneath, QWidget::ClickFocus);
