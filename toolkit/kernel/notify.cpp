@@ -97,8 +97,8 @@ bool deliverPointer(QWidget* widget, Event* event)
             const QGuardedPtr<QWidget> alive(widget);
             handled = deliver(widget, here);
             accepted = here->isAccepted();
-            if ((handled && accepted) || alive.isNull())
-                break;
+            if ((handled && accepted) || alive.isNull() || !widget->isEnabled())
+                break; // disabled widgets swallow it
         }
         if (widget->isTopLevel() || widget->testWFlags(Qt::WNoMousePropagation))
             break;
