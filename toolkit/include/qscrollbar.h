@@ -73,6 +73,7 @@ protected:
     void mouseMoveEvent(QMouseEvent* event);
     void contextMenuEvent(QContextMenuEvent* event);
     void hideEvent(QHideEvent* event);
+    void timerEvent(QTimerEvent* event);
 
     void valueChange();
     void stepChange();
@@ -86,6 +87,13 @@ private:
     void positionSliderFromValue();
     int rangeValueToSliderPos(int value) const;
     int sliderPosToRangeValue(int pos) const;
+    int grooveLength() const;
+    int sliderLength() const;
+    int boundedSlider(int start) const;
+    int partAt(const QPoint& pos) const;
+    void act();
+    void beginDrag(bool jump);
+    void drag();
     void startAutoRepeat();
     void stopAutoRepeat();
 

@@ -1,0 +1,36 @@
+// How scroll bars, fields and lists look.
+#ifndef ZELTK_MOTIFINPUTS_H
+#define ZELTK_MOTIFINPUTS_H
+
+#include <qnamespace.h>
+#include <qrect.h>
+
+class QColorGroup;
+class QPainter;
+
+namespace zeltk
+{
+namespace motif
+{
+
+constexpr int scrollBarExtent = 16; // across
+constexpr int scrollBarArrow = scrollBarExtent - 2 * 2;
+constexpr int shortestSlider = 9;
+
+enum class Arrow { Left, Right, Up, Down };
+// Fills a square whose upper left corner is given.
+void drawArrow(QPainter* p, int x, int y, int size, Arrow arrow, bool down, const QColorGroup& g);
+
+struct ScrollBarLook {
+    Qt::Orientation orientation;
+    QRect slider;
+    bool decreasing; // the arrow that is held down
+    bool increasing;
+};
+// On the background colour.
+void drawScrollBar(QPainter* p, const QRect& r, const QColorGroup& g, const ScrollBarLook& look);
+
+} // namespace motif
+} // namespace zeltk
+
+#endif
