@@ -135,6 +135,20 @@ TEST(WidgetGeometry, ManyResizesInARowEndWithTheLast)
     EXPECT_EQ("", log.take()) << "older answers of the server must not bring older sizes back";
 }
 
+TEST(WidgetGeometry, ALateAnswerToAnOlderWishIsNoNews)
+{
+    EventLog log;
+    LoggedWidget window(&log, 0, "window");
+    showAndWait(&window);
+    window.resize(150, 150);
+    QApplication::syncX(); // the answer is here now, but not read yet
+    window.resize(200, 200);
+    log.take();
+    qApp->processEvents();
+    EXPECT_EQ("", log.take());
+    EXPECT_EQ(QSize(200, 200), window.size());
+}
+
 TEST(WidgetGeometry, HidingAndShowingResizesNothing)
 {
     EventLog log;
