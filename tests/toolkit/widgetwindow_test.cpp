@@ -188,6 +188,8 @@ TEST(WidgetWindow, AnOrphanDialogBelongsToTheScreen)
     QWidget dialog(0, "dialog", Qt::WType_Dialog);
     showAndWait(&dialog);
     EXPECT_EQ(QApplication::desktop()->winId(), owner(dialog));
+    EXPECT_EQ(QApplication::desktop(), QWidget::find(owner(dialog)));
+    EXPECT_EQ(0, sizeHints(dialog).flags & (USSize | USPosition)) << "nobody chose them";
     EXPECT_EQ("", atoms(dialog, "_NET_WM_STATE"));
 }
 

@@ -120,10 +120,10 @@ void makeWindow(QWidget* widget)
         WidgetAccess::setWinId(widget,
                                x11::createWindow(outerWindow(widget), box.x(), box.y(), box.width(),
                                                  box.height(), widget->isTopLevel(), isUnmanaged(widget)));
-        byWindow()[widget->winId()] = widget;
         if (data->flags & Qt::WStaticContents)
             x11::keepContents(widget->winId(), true);
     }
+    byWindow()[widget->winId()] = widget;
     data->state |= Qt::WState_Created;
 }
 

@@ -112,7 +112,7 @@ void setSizeHints(XId window, const SizeHints& wanted)
     hints.width = wanted.width;
     hints.height = wanted.height;
     hints.flags = wanted.userPosition ? USPosition | PPosition : 0;
-    hints.flags |= wanted.userSize ? USSize | PSize : PSize;
+    hints.flags |= wanted.userSize ? USSize | PSize : 0;
     if (wanted.minimumWidth > 0 || wanted.minimumHeight > 0) {
         hints.flags |= PMinSize;
         hints.min_width = wanted.minimumWidth;
