@@ -39,7 +39,7 @@ QRect bevel(const QRect& r, const ButtonLook& look)
 
 QSize pushButtonSize(const QSize& label, const ButtonLook& look)
 {
-    const QSize size = label + QSize(12, 10);
+    const QSize size = label + QSize(10, 10);
     if (!hasRoom(look))
         return size;
     return QSize(std::max(size.width() + 2 * defaultRoom, defaultMinimum), size.height() + 2 * defaultRoom);
@@ -74,7 +74,7 @@ QSize checkBoxSize(const QSize& label)
 {
     if (!label.isValid())
         return QSize(indicatorSize, indicatorSize);
-    return QSize(indicatorSize + 11 + label.width(), std::max(indicatorSize, label.height() + 4));
+    return QSize(indicatorSize + labelDistance + label.width(), std::max(indicatorSize, label.height() + 4));
 }
 
 QRect checkIndicator(const QRect& r)
@@ -85,7 +85,7 @@ QRect checkIndicator(const QRect& r)
 QRect checkLabel(const QRect& r)
 {
     const int left = indicatorSize + labelDistance;
-    return QRect(r.x() + left, r.y(), r.width() - left, r.height());
+    return QRect(r.x() + left, r.y(), r.width() - left - 1, r.height());
 }
 
 // Around the label, or inside the indicator if there is none.
@@ -93,7 +93,7 @@ QRect checkFocusFrame(const QRect& r, const QSize& label)
 {
     if (!label.isValid())
         return inside(checkIndicator(r), 1);
-    const QRect place(checkLabel(r).x() - 3, r.y() + (r.height() - label.height()) / 2 - 2, label.width() + 8,
+    const QRect place(checkLabel(r).x() - 3, r.y() + (r.height() - label.height()) / 2 - 2, label.width() + 6,
                       label.height() + 4);
     return place & r;
 }
