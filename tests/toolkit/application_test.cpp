@@ -1,0 +1,164 @@
+// The application and what it keeps.
+#include "signalrecorder.h"
+#include "waiting.h"
+
+#include <gtest/gtest.h>
+#include <qapplication.h>
+#include <qcursor.h>
+#include <qwidgetlist.h>
+
+#include <memory>
+
+namespace
+{
+
+class Recorder : public QObject
+{
+public:
+    std::string seen;
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        if (event->type() == QEvent::User)
+            seen += std::string(object->name()) + ' ';
+        return takes;
+    }
+    bool takes = false;
+};
+
+bool listed(QWidgetList* list, QWidget* widget)
+{
+    const std::unique_ptr<QWidgetList> owned(list);
+    return owned->containsRef(widget) > 0;
+}
+
+} // namespace
+
+TEST(Application, ItsFiltersSeeTheEventsOfAllObjects)
+{
+    Recorder filter;
+    QObject object(nullptr, "object");
+    qApp->installEventFilter(&filter);
+    QCustomEvent event(QEvent::User);
+    EXPECT_TRUE(QApplication::sendEvent(&object, &event));
+    EXPECT_EQ("object ", filter.seen);
+    Recorder own;
+    object.installEventFilter(&own);
+    filter.takes = true;
+    EXPECT_TRUE(QApplication::sendEvent(&object, &event));
+    EXPECT_EQ("", own.seen) << "the application's filter comes first";
+    qApp->removeEventFilter(&filter);
+    QApplication::sendEvent(&object, &event);
+    EXPECT_EQ("object ", own.seen);
+}
+
+TEST(Application, ListsAllWidgetsAndWindows)
+{
+    QWidget window;
+    QWidget child(&window);
+    EXPECT_TRUE(listed(QApplication::allWidgets(), &window));
+    EXPECT_TRUE(listed(QApplication::allWidgets(), &child));
+    EXPECT_TRUE(listed(QApplication::topLevelWidgets(), &window));
+    EXPECT_FALSE(listed(QApplication::topLevelWidgets(), &child));
+}
+
+TEST(Application, FindsTheWidgetAtAPlaceOfTheScreen)
+{
+    QWidget window;
+    window.setGeometry(300, 200, 100, 100);
+    QWidget child(&window);
+    child.setGeometry(10, 10, 20, 20);
+    showAndWait(&window);
+    EXPECT_EQ(&window, QApplication::widgetAt(315, 215));
+    EXPECT_EQ(&child, QApplication::widgetAt(315, 215, true));
+    EXPECT_EQ(&window, QApplication::widgetAt(QPoint(350, 250), true));
+    EXPECT_EQ(nullptr, QApplication::widgetAt(900, 700));
+}
+
+TEST(Application, SaysWhenTheLastWindowIsClosed)
+{
+    SignalRecorder signals_;
+    signals_.watch(qApp, SIGNAL(lastWindowClosed()));
+    QWidget one, two;
+    showAndWait(&one);
+    showAndWait(&two);
+    one.close();
+    EXPECT_EQ("", signals_.take());
+    two.close();
+    EXPECT_EQ("lastWindowClosed", signals_.take());
+    showAndWait(&one);
+    one.hide();
+    EXPECT_EQ("", signals_.take()) << "hidden, not closed";
+}
+
+TEST(Application, ClosesAllWindowsUntilOneRefuses)
+{
+    struct Stubborn : public QWidget {
+        void closeEvent(QCloseEvent* event) override { event->ignore(); }
+    };
+    QWidget one, two;
+    one.show();
+    two.show();
+    qApp->closeAllWindows();
+    EXPECT_FALSE(one.isVisible());
+    EXPECT_FALSE(two.isVisible());
+    Stubborn stubborn;
+    stubborn.show();
+    one.show();
+    qApp->closeAllWindows();
+    EXPECT_TRUE(stubborn.isVisible());
+}
+
+TEST(Application, OverrideCursorsAreStacked)
+{
+    EXPECT_EQ(nullptr, QApplication::overrideCursor());
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    QApplication::setOverrideCursor(Qt::CrossCursor);
+    EXPECT_EQ(static_cast<int>(Qt::CrossCursor), QApplication::overrideCursor()->shape());
+    QApplication::setOverrideCursor(Qt::IbeamCursor, true);
+    EXPECT_EQ(static_cast<int>(Qt::IbeamCursor), QApplication::overrideCursor()->shape());
+    QApplication::restoreOverrideCursor();
+    EXPECT_EQ(static_cast<int>(Qt::WaitCursor), QApplication::overrideCursor()->shape());
+    QApplication::restoreOverrideCursor();
+    EXPECT_EQ(nullptr, QApplication::overrideCursor());
+}
+
+TEST(Application, FontsCanBeSetForAClass)
+{
+    const QFont before = QApplication::font();
+    QApplication::setFont(QFont("DejaVu Sans", 20), false, "QDesktopWidget");
+    QWidget plain;
+    EXPECT_EQ(20, QApplication::font(QApplication::desktop()).pointSize());
+    EXPECT_EQ(before.pointSize(), QApplication::font(&plain).pointSize());
+    EXPECT_EQ(before.pointSize(), QApplication::font().pointSize());
+    QApplication::setFont(before, true, "QDesktopWidget");
+}
+
+TEST(Application, WidgetsLearnOfANewFontAndPalette)
+{
+    const QFont font = QApplication::font();
+    const QPalette palette = QApplication::palette();
+    QWidget window;
+    QWidget child(&window);
+    QWidget own;
+    own.setFont(QFont("DejaVu Sans", 7));
+    QApplication::setFont(QFont("DejaVu Sans", 17), true);
+    EXPECT_EQ(17, window.font().pointSize());
+    EXPECT_EQ(17, child.font().pointSize());
+    EXPECT_EQ(7, own.font().pointSize());
+    QPalette green(palette);
+    green.setColor(QPalette::Active, QColorGroup::Background, Qt::green);
+    QApplication::setPalette(green, true);
+    EXPECT_EQ(Qt::green, child.palette().color(QPalette::Active, QColorGroup::Background));
+    QApplication::setFont(font, true);
+    QApplication::setPalette(palette, true);
+    EXPECT_EQ(font.pointSize(), child.font().pointSize());
+}
+
+TEST(Application, KnowsItsFile)
+{
+    EXPECT_NE(-1, qApp->applicationFilePath().find("application_test"));
+    EXPECT_EQ(QString(qApp->applicationDirPath() + "/application_test"), qApp->applicationFilePath());
+    EXPECT_EQ(QApplication::GuiClient, qApp->type());
+    EXPECT_FALSE(QApplication::startingUp());
+    EXPECT_FALSE(QApplication::closingDown());
+}
