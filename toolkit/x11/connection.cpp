@@ -4,6 +4,7 @@
 #include "x11/errors.h"
 #include "x11/xlib.h"
 
+#include <cmath>
 #include <map>
 
 namespace zeltk
@@ -16,10 +17,10 @@ namespace
 
 Display* server = nullptr;
 
-// Dots per inch from the size that the server tells, rounded.
-int dotsPerInch(int pixels, int millimetres)
+// From the size that the server tells.
+double dotsPerInch(int pixels, int millimetres)
 {
-    return millimetres > 0 ? (pixels * 254 + millimetres * 5) / (millimetres * 10) : 75;
+    return millimetres > 0 ? pixels * 25.4 / millimetres : 75.0;
 }
 
 std::map<std::string, Atom>& atoms()
@@ -77,12 +78,19 @@ int screenHeight()
 
 int dpiX()
 {
-    return server ? dotsPerInch(screenWidth(), DisplayWidthMM(server, screen())) : 75;
+    return server
+               ? static_cast<int>(std::lround(dotsPerInch(screenWidth(), DisplayWidthMM(server, screen()))))
+               : 75;
 }
 
 int dpiY()
 {
-    return server ? dotsPerInch(screenHeight(), DisplayHeightMM(server, screen())) : 75;
+    return static_cast<int>(std::lround(exactDpiY()));
+}
+
+double exactDpiY()
+{
+    return server ? dotsPerInch(screenHeight(), DisplayHeightMM(server, screen())) : 75.0;
 }
 
 int depth()

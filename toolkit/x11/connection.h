@@ -15,8 +15,8 @@ namespace x11
 // A window, pixmap or any other server resource, as Qt::HANDLE shows it.
 typedef unsigned long XId;
 
-// Opens the connection, once: it lasts as long as the program. An empty name means $DISPLAY. Returns false when no
-// server answers.
+// Opens the connection, once: it lasts as long as the program. An empty name means $DISPLAY. Returns false
+// when no server answers.
 bool openConnection(const std::string& displayName);
 bool connected();
 
@@ -30,6 +30,8 @@ int screenHeight();
 // Dots per inch of the screen, rounded.
 int dpiX();
 int dpiY();
+// Not rounded.
+double exactDpiY();
 int depth();
 // The descriptor that becomes readable when the server has something to say.
 int connectionFd();

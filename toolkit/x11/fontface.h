@@ -18,6 +18,9 @@ class Font
 {
 public:
     XftFont* face;
+    // The measures are those of this face, times `scale`: huge letters are measured smaller.
+    XftFont* measured;
+    double scale;
     int pixelSize;
     mutable std::unordered_map<char16_t, GlyphBox> boxes;
 };

@@ -3,6 +3,7 @@
 #include "x11/xlib.h"
 
 #include <algorithm>
+#include <cmath>
 #include <map>
 #include <memory>
 #include <tuple>
@@ -17,14 +18,17 @@ namespace
 
 int fontconfigWeight(int weight)
 {
-    if (weight < 57)
+    if (weight < 63)
         return FC_WEIGHT_MEDIUM;
     if (weight < 69)
         return FC_WEIGHT_DEMIBOLD;
     return weight < 81 ? FC_WEIGHT_BOLD : FC_WEIGHT_BLACK;
 }
 
-FcPattern* patternOf(const FontRequest& request)
+// Faces above this size are not measured.
+constexpr int largestMeasured = 256;
+
+FcPattern* patternOf(const FontRequest& request, int pixelSize)
 {
     FcPattern* pattern = FcPatternCreate();
     for (const std::string& family : request.families)
@@ -32,7 +36,7 @@ FcPattern* patternOf(const FontRequest& request)
             FcPatternAddString(pattern, FC_FAMILY, reinterpret_cast<const FcChar8*>(family.c_str()));
     FcPatternAddInteger(pattern, FC_WEIGHT, fontconfigWeight(request.weight));
     FcPatternAddInteger(pattern, FC_SLANT, request.italic ? FC_SLANT_ITALIC : FC_SLANT_ROMAN);
-    FcPatternAddDouble(pattern, FC_PIXEL_SIZE, request.pixelSize);
+    FcPatternAddDouble(pattern, FC_PIXEL_SIZE, pixelSize * exactDpiY() / dpiY());
     if (!request.antialias)
         FcPatternAddBool(pattern, FC_ANTIALIAS, FcFalse);
     return pattern;
@@ -40,12 +44,26 @@ FcPattern* patternOf(const FontRequest& request)
 
 using Key = std::tuple<std::vector<std::string>, int, int, bool, bool>;
 
+// The size counts pixels at the rounded resolution of the screen; the face gets its share of the exact one.
+XftFont* openFace(const FontRequest& request, int pixelSize)
+{
+    FcPattern* pattern = patternOf(request, pixelSize);
+    FcResult result;
+    FcPattern* match = XftFontMatch(display(), screen(), pattern, &result);
+    FcPatternDestroy(pattern);
+    return match ? XftFontOpenPattern(display(), match) : nullptr;
+}
+
+int scaled(const Font* font, int measure)
+{
+    return static_cast<int>(std::lround(measure * font->scale));
+}
+
 // The box that stands for a character that no font has.
 GlyphBox missingBox(const Font* font)
 {
-    const int side = font->pixelSize;
-    const int height = std::max(font->face->ascent - 2, 1);
-    return {1, -height, std::max(side - 2, 1), height, side};
+    const int side = std::max(font->pixelSize - 2, 1);
+    return {0, -side, side, side, font->pixelSize};
 }
 
 } // namespace
@@ -63,37 +81,38 @@ const Font* openFont(const FontRequest& request)
     std::unique_ptr<Font>& font = fonts[key];
     if (font)
         return font.get();
-    FcPattern* pattern = patternOf(request);
-    FcResult result;
-    FcPattern* match = XftFontMatch(display(), screen(), pattern, &result);
-    FcPatternDestroy(pattern);
-    XftFont* face = match ? XftFontOpenPattern(display(), match) : nullptr;
+    XftFont* face = openFace(request, request.pixelSize);
     if (!face) // no font at all: text stays invisible, but it has measures
         return nullptr;
     font.reset(new Font);
-    font->face = face;
+    font->face = font->measured = face;
+    font->scale = 1.0;
     font->pixelSize = request.pixelSize;
+    if (request.pixelSize > largestMeasured) {
+        font->measured = openFace(request, largestMeasured);
+        font->scale = static_cast<double>(request.pixelSize) / largestMeasured;
+    }
     return font.get();
 }
 
 int ascent(const Font* font)
 {
-    return font ? font->face->ascent : 10;
+    return font ? scaled(font, font->measured->ascent) : 10;
 }
 
 int descent(const Font* font)
 {
-    return font ? font->face->descent : 3;
+    return font ? scaled(font, font->measured->descent) : 3;
 }
 
 int lineHeight(const Font* font)
 {
-    return font ? font->face->height : 13;
+    return font ? scaled(font, font->measured->height) : 13;
 }
 
 int maxAdvance(const Font* font)
 {
-    return font ? font->face->max_advance_width : 10;
+    return font ? scaled(font, font->measured->max_advance_width) : 10;
 }
 
 std::string familyOf(const Font* font)
@@ -132,10 +151,11 @@ GlyphBox glyphBox(const Font* font, char16_t c)
         return found->second;
     GlyphBox box = missingBox(font);
     if (!isBoxed(font, c)) {
-        const FT_UInt glyph = XftCharIndex(display(), font->face, c);
+        const FT_UInt glyph = XftCharIndex(display(), font->measured, c);
         XGlyphInfo info;
-        XftGlyphExtents(display(), font->face, &glyph, 1, &info);
-        box = {-info.x, -info.y, info.width, info.height, info.xOff};
+        XftGlyphExtents(display(), font->measured, &glyph, 1, &info);
+        box = {scaled(font, -info.x), scaled(font, -info.y), scaled(font, info.width),
+               scaled(font, info.height), scaled(font, info.xOff)};
     }
     font->boxes[c] = box;
     return box;

@@ -16,7 +16,7 @@ namespace x11
 struct FontRequest {
     std::vector<std::string> families; // the first one there is
     int pixelSize;
-    int weight; // 0-99, from 57 on bold faces are wanted
+    int weight; // 0-99, from QFont::DemiBold on bold faces are wanted
     bool italic;
     bool antialias;
 };
