@@ -1,0 +1,1 @@
+../src/zelactivelabel2.h

@@ -1,0 +1,1 @@
+../src/zellineedit.h

@@ -1,0 +1,45 @@
+#ifndef ZELFRAME_H
+#define ZELFRAME_H
+
+#include <qframe.h>
+
+#include "zelexport.h"
+
+/*!
+ * \brief A frame that reports its mouse events.
+ *
+ * Each event is reported twice, first alone and then together with the frame, so that one slot can serve many
+ * frames. After that it goes on to the parent widget. Events are valid during the emission.
+ */
+class ZELKIT_EXPORT ZelFrame : public QFrame
+{
+    Q_OBJECT
+
+public:
+    //! Makes a frame as QFrame does.
+    ZelFrame(QWidget* parent = 0, const char* name = 0, WFlags flags = 0);
+
+    //! Destroys the frame.
+    ~ZelFrame();
+
+signals:
+    void mousePress(QMouseEvent* event);
+    void mouseRelease(QMouseEvent* event);
+    //! A mousePress() follows for the same event.
+    void mouseDoubleClick(QMouseEvent* event);
+    void mouseMove(QMouseEvent* event);
+
+    //! \a frame is the sender.
+    void mousePressEx(QMouseEvent* event, ZelFrame* frame);
+    void mouseReleaseEx(QMouseEvent* event, ZelFrame* frame);
+    void mouseDoubleClickEx(QMouseEvent* event, ZelFrame* frame);
+    void mouseMoveEx(QMouseEvent* event, ZelFrame* frame);
+
+protected:
+    void mousePressEvent(QMouseEvent* event);
+    void mouseReleaseEvent(QMouseEvent* event);
+    void mouseDoubleClickEvent(QMouseEvent* event);
+    void mouseMoveEvent(QMouseEvent* event);
+};
+
+#endif

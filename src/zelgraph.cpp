@@ -1,0 +1,287 @@
+#include "zelgraph.h"
+#include "graphscale.h"
+
+#include <qevent.h>
+#include <qfontmetrics.h>
+#include <qpainter.h>
+#include <qpixmap.h>
+#include <qpointarray.h>
+
+#include <new>
+
+// Bits of modeFlags.
+enum { GraphBars = 1, GraphRate = 2, GraphAutoRange = 4, GraphReadout = 8, GraphReadoutShown = 16 };
+
+ZelGraph::ZelGraph(QWidget* parent, const char* name, bool readout, WFlags f)
+    : QFrame(parent, name, f), minY(0.0), maxY(5.0), hGridCount(10), vGridStep(10),
+      modeFlags(readout ? GraphReadout : 0), graphColor(0, 0, 220), gridColor(0, 150, 0),
+      backgroundColor(0, 0, 0), writePos(0), capacity(0), count(0), history(0), prevTime(time(0)),
+      lastTime(prevTime), prevInput(0.0), lastInput(0.0), firstValue(true), mouseX(0), mouseY(0)
+{
+    setFrameStyle((int)Panel | (int)Sunken);
+    setBackgroundMode(NoBackground);
+}
+
+ZelGraph::~ZelGraph()
+{
+    delete[] history;
+}
+
+void ZelGraph::setGraphParameters(int newMinY, int newMaxY, int newHGridCount, int newVGridStep, bool bars,
+                                  bool rate, bool autoRange, const QColor& background, const QColor& graph,
+                                  const QColor& grid)
+{
+    minY = newMinY;
+    maxY = newMaxY;
+    repairRange(minY, maxY);
+    hGridCount = newHGridCount;
+    vGridStep = newVGridStep;
+    modeFlags &= ~(GraphBars | GraphRate | GraphAutoRange);
+    if (bars)
+        modeFlags |= GraphBars;
+    if (rate)
+        modeFlags |= GraphRate;
+    if (autoRange) {
+        minY = 0.0;
+        maxY = 2.0;
+        modeFlags |= GraphAutoRange;
+    }
+    graphColor = graph;
+    gridColor = grid;
+    backgroundColor = background;
+    flatten();
+    repaint(true);
+}
+
+void ZelGraph::setMaxY(int y)
+{
+    if ((modeFlags & GraphAutoRange) || y == maxY)
+        return;
+    maxY = y;
+    repairRange(minY, maxY);
+    repaint(true);
+}
+
+void ZelGraph::setMinY(int y)
+{
+    if ((modeFlags & GraphAutoRange) || y == minY)
+        return;
+    minY = y;
+    repairRange(minY, maxY);
+    repaint(true);
+}
+
+// The columns that had samples keep being drawn.
+void ZelGraph::clearAll()
+{
+    flatten();
+    repaint(true);
+}
+
+void ZelGraph::flatten()
+{
+    for (int i = 0; i < capacity; ++i)
+        history[i] = minY;
+}
+
+// One sample for each column inside of the frame.
+void ZelGraph::resizeEvent(QResizeEvent* event)
+{
+    delete[] history;
+    history = 0;
+    capacity = writePos = count = 0;
+    const int columns = contentsRect().width();
+    if (columns > 0)
+        history = new (std::nothrow) double[columns];
+    if (history)
+        capacity = columns;
+    flatten();
+    QFrame::resizeEvent(event);
+}
+
+void ZelGraph::setValue(int v)
+{
+    prevTime = lastTime;
+    lastTime = time(0);
+    prevInput = lastInput;
+    lastInput = v;
+    const double y = plottedValue(v);
+    if (modeFlags & GraphAutoRange) {
+        if (firstValue || y > maxY)
+            maxY = firstValue ? y + 1 : y;
+        if (firstValue || y < minY)
+            minY = firstValue ? y - 1 : y;
+    }
+    if (firstValue)
+        flatten();
+    firstValue = false;
+    store(y > maxY ? maxY : y < minY ? minY : y);
+    repaint(true);
+}
+
+// Two samples within a second count as two seconds apart.
+double ZelGraph::plottedValue(int v) const
+{
+    if (!(modeFlags & GraphRate))
+        return v;
+    if (firstValue)
+        return 0.0;
+    const int seconds = (int)(lastTime - prevTime);
+    return seconds ? (v - prevInput) / seconds : (v - prevInput) * 0.5;
+}
+
+void ZelGraph::store(double y)
+{
+    if (!history)
+        return;
+    history[writePos] = y;
+    if (++writePos >= capacity)
+        writePos = 0;
+    if (count < capacity)
+        ++count;
+}
+
+// The picture is made in the widget's coordinates and then put where the contents begin, so all of it shows a
+// frame's width further to the right and below.
+void ZelGraph::paintEvent(QPaintEvent* event)
+{
+    QFrame::paintEvent(event);
+    const QRect area = contentsRect();
+    if (area.width() > 0 && area.height() > 0) {
+        QPixmap picture(area.width(), area.height());
+        QPainter painter;
+        painter.begin(&picture, this);
+        painter.fillRect(0, 0, area.width(), area.height(), QBrush(backgroundColor));
+        drawGrid(painter, area);
+        if (history)
+            drawHistory(painter, area);
+        painter.end();
+        bitBlt(this, area.left(), area.top(), &picture, 0, 0, area.width(), area.height(), CopyROP);
+    }
+    if (modeFlags & GraphReadoutShown)
+        drawReadout(area);
+}
+
+void ZelGraph::drawGrid(QPainter& painter, const QRect& area) const
+{
+    QPointArray ends;
+    int lines = 0;
+    const double spacing = hGridCount == -1 || hGridCount == 0 ? 0.0 : area.height() / (double)hGridCount;
+    if (spacing >= 1.0) {
+        const int step = (int)spacing;
+        for (int y = area.bottom() - step; y >= 0; y -= step)
+            ends.putPoints(2 * lines++, 2, area.left(), y, area.right(), y);
+    }
+    if (vGridStep > 0) {
+        for (int x = area.left(); x <= area.right() - vGridStep;) {
+            x += vGridStep;
+            ends.putPoints(2 * lines++, 2, x, area.top(), x, area.bottom());
+        }
+    }
+    painter.setPen(gridColor);
+    painter.drawLineSegments(ends);
+}
+
+int ZelGraph::rowAt(int slot, const QRect& area) const
+{
+    return rowOfValue(history[slot], minY, maxY, area.height(), area.bottom());
+}
+
+// From the oldest sample to the newest; the slot that is written next is left out.
+void ZelGraph::drawHistory(QPainter& painter, const QRect& area) const
+{
+    QPointArray ends(2 * capacity);
+    int lines = 0;
+    int slot = writePos + 1 < capacity ? writePos + 1 : 0;
+    int previous = rowAt(slot, area);
+    for (int x = area.left(); x <= area.right(); ++x) {
+        const int row = rowAt(slot, area);
+        if (slot < count) {
+            ends.setPoint(2 * lines, x, modeFlags & GraphBars ? area.bottom() : previous);
+            ends.setPoint(2 * lines + 1, x, row);
+            ++lines;
+        }
+        if (++slot == writePos)
+            break;
+        if (slot >= capacity)
+            slot = 0;
+        previous = row;
+    }
+    painter.setPen(graphColor);
+    painter.drawLineSegments(ends, 0, lines);
+}
+
+void ZelGraph::mousePressEvent(QMouseEvent* event)
+{
+    emit mousePress(event);
+    if (event->button() == LeftButton && (modeFlags & GraphReadout)) {
+        const QRect area = contentsRect();
+        modeFlags |= GraphReadoutShown;
+        mouseX = event->x();
+        mouseY = event->y();
+        placeReadout(area);
+        drawReadout(area);
+    }
+    QWidget::mousePressEvent(event);
+}
+
+void ZelGraph::mouseMoveEvent(QMouseEvent* event)
+{
+    emit mouseMove(event);
+    if (modeFlags & GraphReadoutShown) {
+        const QRect area = contentsRect();
+        drawReadout(area); // takes the old one away
+        mouseX = event->x();
+        mouseY = event->y() < 0 ? 0 : event->y() > area.bottom() ? area.bottom() : event->y();
+        placeReadout(area);
+        drawReadout(area);
+    }
+    QWidget::mouseMoveEvent(event);
+}
+
+void ZelGraph::mouseReleaseEvent(QMouseEvent* event)
+{
+    emit mouseRelease(event);
+    if (event->button() == LeftButton && (modeFlags & GraphReadoutShown)) {
+        modeFlags &= ~GraphReadoutShown;
+        drawReadout(contentsRect());
+    }
+    QWidget::mouseReleaseEvent(event);
+}
+
+void ZelGraph::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    emit mouseDoubleClick(event);
+    QWidget::mouseDoubleClickEvent(event);
+}
+
+void ZelGraph::keyPressEvent(QKeyEvent* event)
+{
+    emit keyPress(event);
+    QWidget::keyPressEvent(event);
+}
+
+// The middle of the text is measured from the widget's edge, not from the contents'.
+void ZelGraph::placeReadout(const QRect& area)
+{
+    readoutText.sprintf("%.2f", valueAtRow(mouseY, minY, maxY, area.height()));
+    const QFontMetrics metrics(font());
+    const int width = metrics.width(readoutText);
+    const int height = metrics.height();
+    const int above = mouseY - height / 2;
+    readoutRect = QRect(area.width() / 2 - width / 2, above > 0 ? above : 0, width, height);
+    if (readoutRect.bottom() > area.bottom()) {
+        const int top = area.bottom() - (height - 1);
+        readoutRect.moveTop(top > 0 ? top : 0);
+    }
+}
+
+// Inverts; a second time, it takes away what the first time drew.
+void ZelGraph::drawReadout(const QRect& area)
+{
+    QPainter painter(this);
+    painter.setRasterOp(NotROP);
+    painter.drawText(readoutRect, AlignCenter, readoutText);
+    painter.drawLine(area.left(), mouseY, readoutRect.left(), mouseY);
+    painter.drawLine(readoutRect.right(), mouseY, area.right(), mouseY);
+}
