@@ -142,6 +142,25 @@ TEST(WidgetBackground, DisabledWidgetsShowTheDisabledColours)
     EXPECT_EQ(0, Pixels::of(&window).count(red));
 }
 
+TEST(WidgetBackground, InactiveWindowsShowTheInactiveColours)
+{
+    QWidget window, other;
+    window.setGeometry(100, 100, 20, 10);
+    other.setGeometry(300, 100, 20, 10);
+    QPalette palette = window.palette();
+    palette.setColor(QPalette::Inactive, QColorGroup::Background, Qt::red);
+    window.setPalette(palette);
+    showAndActivate(&other);
+    showAndWait(&window);
+    EXPECT_EQ(200, Pixels::of(&window).count(red));
+    window.setActiveWindow();
+    EXPECT_TRUE(waitFor([&] { return window.isActiveWindow(); }));
+    EXPECT_EQ(0, Pixels::of(&window).count(red));
+    other.setActiveWindow();
+    EXPECT_TRUE(waitFor([&] { return other.isActiveWindow(); }));
+    EXPECT_EQ(200, Pixels::of(&window).count(red));
+}
+
 TEST(WidgetBackground, APixmapIsLaidAsTiles)
 {
     QWidget window;

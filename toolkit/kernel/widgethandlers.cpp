@@ -213,8 +213,6 @@ void QWidget::showEvent(QShowEvent*) {}
 
 void QWidget::hideEvent(QHideEvent*) {}
 
-void QWidget::windowActivationChange(bool) {}
-
 void QWidget::setMouseTracking(bool enable)
 {
     if (enable)

@@ -84,6 +84,15 @@ void QWidget::unsetPalette()
 
 void QWidget::paletteChange(const QPalette&) {}
 
+// Another window has become active: another colour group holds.
+void QWidget::windowActivationChange(bool)
+{
+    if (!isVisible() || w->palette.active() == w->palette.inactive())
+        return;
+    zeltk::applyBackground(this);
+    update();
+}
+
 const QColor& QWidget::foregroundColor() const
 {
     return paletteForegroundColor();

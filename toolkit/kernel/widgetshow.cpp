@@ -132,6 +132,7 @@ void QWidget::show()
     if (container)
         deliver(container, QEvent::ChildInserted);
     setWState(WState_Visible);
+    zeltk::applyBackground(this); // the group of a visible widget depends on its window
     showChildren(this);
     QShowEvent event;
     QApplication::sendEvent(this, &event);
