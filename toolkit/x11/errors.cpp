@@ -6,6 +6,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <map>
 #include <unistd.h>
 
 namespace zeltk
@@ -18,15 +19,34 @@ namespace
 
 ErrorHandler handler = nullptr;
 
+// The extensions that the toolkit uses, by the code of their requests. The server cannot be asked in the
+// midst of an error.
+std::map<int, std::string>& extensions()
+{
+    static auto* const names = new std::map<int, std::string>;
+    return *names;
+}
+
+void learnExtensions(Display* server)
+{
+    for (const char* name : {"SHAPE", "RENDER", "BIG-REQUESTS", "XKEYBOARD"}) {
+        int code = 0;
+        int event = 0;
+        int error = 0;
+        if (XQueryExtension(server, name, &code, &event, &error))
+            extensions()[code] = name;
+    }
+}
+
 std::string requestName(Display* server, const XErrorEvent* error)
 {
-    char number[16];
-    std::snprintf(number, sizeof number, "%d", error->request_code);
+    const auto extension = extensions().find(error->request_code);
+    const std::string code = extension == extensions().end()
+                                 ? std::to_string(error->request_code)
+                                 : extension->second + "." + std::to_string(error->minor_code);
     char text[128];
-    XGetErrorDatabaseText(server, "XRequest", number, "", text, sizeof text);
-    if (text[0])
-        return text;
-    return std::string("request ") + number + "." + std::to_string(error->minor_code);
+    XGetErrorDatabaseText(server, "XRequest", code.c_str(), ("request " + code).c_str(), text, sizeof text);
+    return text;
 }
 
 int reportError(Display* server, XErrorEvent* error)
@@ -55,6 +75,7 @@ int reportLoss(Display*)
 
 void watchErrors()
 {
+    learnExtensions(display());
     XSetErrorHandler(reportError);
     XSetIOErrorHandler(reportLoss);
 }

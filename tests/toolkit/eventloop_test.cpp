@@ -1,0 +1,273 @@
+// The event loop, nested loops and timers.
+#include "inputlog.h"
+#include "signalrecorder.h"
+#include "waiting.h"
+#include "xinput.h"
+
+#include <gtest/gtest.h>
+#include <qapplication.h>
+#include <qeventloop.h>
+#include <qtimer.h>
+
+#include <functional>
+#include <thread>
+
+namespace
+{
+
+// Calls a function after some milliseconds.
+class Later : public QObject
+{
+public:
+    Later(int milliseconds, std::function<void()> what) : m_what(std::move(what))
+    {
+        startTimer(milliseconds);
+    }
+
+protected:
+    void timerEvent(QTimerEvent*) override
+    {
+        killTimers();
+        m_what();
+    }
+
+private:
+    std::function<void()> m_what;
+};
+
+class Ticks : public QObject
+{
+public:
+    std::string order;
+    void watch(int id, char letter) { m_letters.push_back({id, letter}); }
+
+protected:
+    void timerEvent(QTimerEvent* event) override
+    {
+        for (const auto& entry : m_letters)
+            if (entry.first == event->timerId())
+                order += entry.second;
+    }
+
+private:
+    std::vector<std::pair<int, char>> m_letters;
+};
+
+// Nothing is handled between the end of a program's loop and the begin of the next one, so every test begins
+// one.
+class EventLoop : public testing::Test
+{
+protected:
+    EventLoop()
+    {
+        Later leave(0, [] { qApp->exit_loop(); });
+        qApp->enter_loop();
+    }
+};
+
+class Timers : public EventLoop
+{
+};
+
+} // namespace
+
+TEST_F(EventLoop, ExecReturnsWhatExitSays)
+{
+    Later leave(10, [] { qApp->exit(7); });
+    EXPECT_EQ(7, qApp->exec());
+    Later quit(10, [] { qApp->quit(); });
+    EXPECT_EQ(0, qApp->exec());
+}
+
+TEST_F(EventLoop, QuitBeforeExecHasNoEffect)
+{
+    bool ran = false;
+    qApp->quit();
+    Later later(10, [&] {
+        ran = true;
+        qApp->exit(3);
+    });
+    EXPECT_EQ(3, qApp->exec());
+    EXPECT_TRUE(ran);
+}
+
+TEST_F(EventLoop, LoopsAreNestedAndLeftOneByOne)
+{
+    std::string levels;
+    const auto note = [&] { levels += std::to_string(qApp->loopLevel()); };
+    Later enter(10, [&] {
+        note();
+        qApp->enter_loop();
+        note();
+    });
+    Later inside(30, [&] {
+        note();
+        qApp->exit_loop();
+    });
+    Later end(60, [&] {
+        note();
+        qApp->quit();
+    });
+    note();
+    EXPECT_EQ(0, qApp->exec());
+    note();
+    EXPECT_EQ("012110", levels);
+}
+
+TEST_F(EventLoop, QuitEndsAllLoops)
+{
+    int inner = -1;
+    Later enter(10, [&] { inner = qApp->enter_loop(); });
+    Later quit(30, [] { qApp->exit(5); });
+    EXPECT_EQ(5, qApp->exec());
+    EXPECT_EQ(1, inner);
+    EXPECT_EQ(0, qApp->loopLevel());
+}
+
+TEST_F(EventLoop, ALoopCanBeEnteredOutsideOfExec)
+{
+    Later leave(10, [] { qApp->exit_loop(); });
+    EXPECT_EQ(0, qApp->enter_loop());
+    Later quit(10, [] { qApp->quit(); });
+    EXPECT_EQ(0, qApp->enter_loop());
+    Later again(10, [] { qApp->exit_loop(); });
+    EXPECT_EQ(0, qApp->eventLoop()->enterLoop()) << "the end of one loop is not that of the next";
+}
+
+TEST_F(EventLoop, AfterTheEndEventsWaitForTheNextLoop)
+{
+    Later quit(10, [] { qApp->quit(); });
+    qApp->exec();
+    bool ran = false;
+    Later later(0, [&] {
+        ran = true;
+        qApp->exit_loop();
+    });
+    qApp->processEvents();
+    EXPECT_FALSE(ran);
+    qApp->enter_loop();
+    EXPECT_TRUE(ran);
+}
+
+TEST_F(EventLoop, TheEndIsAnnounced)
+{
+    SignalRecorder signals_;
+    signals_.watch(qApp, SIGNAL(aboutToQuit()));
+    Later quit(10, [] { qApp->quit(); });
+    qApp->exec();
+    EXPECT_EQ("aboutToQuit", signals_.take());
+}
+
+TEST_F(EventLoop, ClosingTheMainWidgetEndsTheProgram)
+{
+    QWidget main, other;
+    qApp->setMainWidget(&main);
+    EXPECT_EQ(&main, qApp->mainWidget());
+    main.show();
+    other.show();
+    Later close(20, [&] { main.close(); });
+    EXPECT_EQ(0, qApp->exec());
+    EXPECT_TRUE(other.isVisible());
+    qApp->setMainWidget(nullptr);
+}
+
+TEST_F(EventLoop, ADeletedMainWidgetIsForgotten)
+{
+    QWidget* main = new QWidget;
+    qApp->setMainWidget(main);
+    delete main;
+    EXPECT_EQ(nullptr, qApp->mainWidget());
+}
+
+TEST_F(EventLoop, AnotherThreadCanWakeIt)
+{
+    SignalRecorder signals_;
+    signals_.watch(qApp->eventLoop(), SIGNAL(awake()));
+    settle();
+    signals_.take();
+    std::thread waker([] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+        QApplication::eventLoop()->wakeUp();
+    });
+    qApp->eventLoop()->processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMore);
+    waker.join();
+    EXPECT_EQ("awake", signals_.take());
+}
+
+TEST_F(EventLoop, UserInputCanWait)
+{
+    EventLog log;
+    InputWidget widget(&log, nullptr, "widget", 100, 100, 50, 50);
+    widget.acceptsMouse = true;
+    showAndActivate(&widget);
+    xinput::moveTo(&widget, 5, 5);
+    settle();
+    log.take();
+    xinput::pressButton();
+    QApplication::syncX();
+    bool painted = false;
+    Later timer(0, [&] { painted = true; });
+    qApp->eventLoop()->processEvents(QEventLoop::ExcludeUserInput, 20);
+    EXPECT_TRUE(painted);
+    EXPECT_EQ("", log.take());
+    EXPECT_TRUE(qApp->hasPendingEvents());
+    qApp->processEvents();
+    EXPECT_EQ("widget press 5,5 button 1 state 0", log.take());
+}
+
+TEST_F(Timers, FireInTheOrderOfTheirTime)
+{
+    Ticks ticks;
+    const int late = ticks.startTimer(60);
+    const int early = ticks.startTimer(25);
+    EXPECT_NE(late, early);
+    EXPECT_GT(late, 0);
+    ticks.watch(late, 'l');
+    ticks.watch(early, 'e');
+    EXPECT_TRUE(waitFor([&] { return ticks.order.find('l') != std::string::npos; }));
+    EXPECT_EQ("ee", ticks.order.substr(0, 2)) << "again and again";
+}
+
+TEST_F(Timers, AKilledOneIsSilent)
+{
+    Ticks ticks;
+    const int id = ticks.startTimer(0);
+    ticks.watch(id, 'x');
+    ticks.killTimer(id);
+    settle();
+    EXPECT_EQ("", ticks.order);
+    ticks.watch(ticks.startTimer(0), 'y');
+    settle();
+    EXPECT_NE("", ticks.order);
+    ticks.killTimers();
+    ticks.order.clear();
+    settle();
+    EXPECT_EQ("", ticks.order);
+}
+
+TEST_F(Timers, MayBeKilledByAnotherOfTheSameTime)
+{
+    QObject victim;
+    Ticks ticks;
+    ticks.watch(ticks.startTimer(5), 'x');
+    Later killer(5, [&] { ticks.killTimers(); });
+    Later end(40, [] { qApp->quit(); });
+    qApp->exec();
+    EXPECT_LE(ticks.order.size(), 1u);
+}
+
+TEST_F(Timers, OneWithoutTimeLeavesRoomForTheRest)
+{
+    Ticks ticks;
+    ticks.watch(ticks.startTimer(0), 'z');
+    EventLog log;
+    InputWidget widget(&log, nullptr, "widget", 100, 100, 50, 50);
+    widget.acceptsMouse = true;
+    showAndActivate(&widget);
+    log.take();
+    Later end(100, [] { qApp->quit(); });
+    xinput::click(&widget, 5, 5);
+    qApp->exec();
+    EXPECT_NE(std::string::npos, log.take().find("press"));
+    EXPECT_GT(ticks.order.size(), 10u);
+}

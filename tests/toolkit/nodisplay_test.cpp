@@ -1,0 +1,116 @@
+// Programs without an X server, and programs that lose it.
+#include "xinput.h"
+
+#include <gtest/gtest.h>
+
+#include <X11/Xlib.h>
+
+#include <cstdlib>
+#include <string>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+namespace
+{
+
+// A program of its own, with the given display, whose output is read here.
+class Program
+{
+public:
+    Program(const char* display, std::vector<std::string> arguments)
+    {
+        int ends[2];
+        if (pipe(ends) != 0)
+            std::abort();
+        arguments.insert(arguments.begin(), PLAIN_PROGRAM);
+        m_pid = fork();
+        if (m_pid == 0) {
+            dup2(ends[1], 1);
+            dup2(ends[1], 2);
+            close(ends[0]);
+            close(ends[1]);
+            if (display)
+                setenv("DISPLAY", display, 1);
+            else
+                unsetenv("DISPLAY");
+            std::vector<char*> argv;
+            for (std::string& argument : arguments)
+                argv.push_back(&argument[0]);
+            argv.push_back(nullptr);
+            execv(argv[0], argv.data());
+            _exit(99);
+        }
+        close(ends[1]);
+        m_output = fdopen(ends[0], "r");
+    }
+    ~Program() { fclose(m_output); }
+
+    // Empty at the end.
+    std::string line()
+    {
+        char text[1000];
+        return fgets(text, sizeof text, m_output) ? text : "";
+    }
+    std::string rest()
+    {
+        std::string all;
+        for (std::string next = line(); !next.empty(); next = line())
+            all += next;
+        return all;
+    }
+    // -1 if it did not end by itself.
+    int exitStatus()
+    {
+        int status = 0;
+        waitpid(m_pid, &status, 0);
+        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    }
+
+private:
+    pid_t m_pid;
+    FILE* m_output;
+};
+
+} // namespace
+
+TEST(NoDisplay, EndsWithAMessage)
+{
+    Program program(nullptr, {});
+    EXPECT_EQ("plain: no X server is named; set DISPLAY or use -display\n", program.rest());
+    EXPECT_EQ(1, program.exitStatus());
+}
+
+TEST(NoDisplay, AServerThatDoesNotAnswerIsNamed)
+{
+    Program program(":4711", {});
+    EXPECT_EQ("plain: cannot connect to the X server :4711\n", program.rest());
+    EXPECT_EQ(1, program.exitStatus());
+    Program other(nullptr, {"-display", ":4712"});
+    EXPECT_EQ("plain: cannot connect to the X server :4712\n", other.rest());
+    EXPECT_EQ(1, other.exitStatus());
+}
+
+TEST(Display, CanBeNamedInTheCommandLine)
+{
+    Program program(nullptr, {"-first", "-display", getenv("DISPLAY"), "second"});
+    const std::string window = program.line();
+    EXPECT_EQ("window ", window.substr(0, 7));
+    EXPECT_EQ("argument -first\n", program.line()) << "the toolkit takes only what is its own";
+    EXPECT_EQ("argument second\n", program.line());
+    XKillClient(xinput::display(), strtoul(window.c_str() + 7, nullptr, 10));
+    xinput::sync();
+    program.exitStatus();
+}
+
+TEST(LostDisplay, EndsTheProgramWithAMessage)
+{
+    Program program(getenv("DISPLAY"), {});
+    const std::string window = program.line();
+    ASSERT_EQ("window ", window.substr(0, 7));
+    XKillClient(xinput::display(), strtoul(window.c_str() + 7, nullptr, 10));
+    xinput::sync();
+    EXPECT_EQ("The connection to the X server " + std::string(getenv("DISPLAY")) + " is lost.\n",
+              program.rest());
+    EXPECT_EQ(1, program.exitStatus());
+}
