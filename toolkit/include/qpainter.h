@@ -72,6 +72,16 @@ public:
     void setBrushOrigin(int x, int y);
     void setBrushOrigin(const QPoint& p) { setBrushOrigin(p.x(), p.y()); }
 
+    //! The window lies over the viewport: the program's coordinates and the device's for the same area.
+    bool hasViewXForm() const;
+    void setViewXForm(bool enable);
+    QRect window() const;
+    void setWindow(const QRect& rect);
+    void setWindow(int x, int y, int w, int h) { setWindow(QRect(x, y, w, h)); }
+    QRect viewport() const;
+    void setViewport(const QRect& rect);
+    void setViewport(int x, int y, int w, int h) { setViewport(QRect(x, y, w, h)); }
+
     bool hasWorldXForm() const;
     void setWorldXForm(bool enable);
     const QWMatrix& worldMatrix() const;
@@ -81,9 +91,17 @@ public:
     void shear(double sh, double sv);
     void rotate(double degrees);
     void resetXForm();
+    double translationX() const;
+    double translationY() const;
+    //! From the program's coordinates to the device's, and back.
     QPoint xForm(const QPoint& p) const;
     QRect xForm(const QRect& rect) const;
     QPointArray xForm(const QPointArray& points) const;
+    QPointArray xForm(const QPointArray& points, int index, int count) const;
+    QPoint xFormDev(const QPoint& p) const;
+    QRect xFormDev(const QRect& rect) const;
+    QPointArray xFormDev(const QPointArray& points) const;
+    QPointArray xFormDev(const QPointArray& points, int index, int count) const;
 
     void setClipping(bool enable);
     bool hasClipping() const;
@@ -152,9 +170,17 @@ public:
         drawPixmap(p.x(), p.y(), pixmap, source.x(), source.y(), source.width(), source.height());
     }
     void drawPixmap(const QPoint& p, const QPixmap& pixmap) { drawPixmap(p.x(), p.y(), pixmap); }
+    //! Scaled to the rectangle.
+    void drawPixmap(const QRect& r, const QPixmap& pixmap);
     void drawImage(int x, int y, const QImage& image, int sx = 0, int sy = 0, int sw = -1, int sh = -1,
                    int conversionFlags = 0);
+    void drawImage(const QPoint& p, const QImage& image, const QRect& source, int conversionFlags = 0)
+    {
+        drawImage(p.x(), p.y(), image, source.x(), source.y(), source.width(), source.height(),
+                  conversionFlags);
+    }
     void drawImage(const QPoint& p, const QImage& image, int conversionFlags = 0);
+    void drawImage(const QRect& r, const QImage& image);
     void drawTiledPixmap(int x, int y, int w, int h, const QPixmap& pixmap, int sx = 0, int sy = 0);
     void drawTiledPixmap(const QRect& r, const QPixmap& pixmap, const QPoint& s)
     {
@@ -195,6 +221,13 @@ public:
     }
     int tabStops() const;
     void setTabStops(int pixels);
+    //! Places of tabs in pixels, ended by 0; copied.
+    int* tabArray() const;
+    void setTabArray(int* places);
+
+    //! What is drawn on the device goes to the other one, until redirected to null.
+    static void redirect(QPaintDevice* device, QPaintDevice* replacement);
+    static QPaintDevice* redirect(QPaintDevice* device);
 
 private:
     zeltk::PainterData* d;

@@ -57,6 +57,16 @@ public:
     bool selfMask() const;
     bool hasAlpha() const { return mask() || selfMask(); }
 
+    //! The pixmap turned, scaled or sheared; where nothing comes to lie it is transparent.
+    QPixmap xForm(const QWMatrix& matrix) const;
+    //! The matrix with the translation that puts the corner of the turned picture at (0, 0).
+    static QWMatrix trueMatrix(const QWMatrix& matrix, int w, int h);
+
+    Optimization optimization() const;
+    void setOptimization(Optimization optimization);
+    static Optimization defaultOptimization();
+    static void setDefaultOptimization(Optimization optimization);
+
     QImage convertToImage() const;
     bool convertFromImage(const QImage& image, ColorMode mode = Auto);
     bool load(const QString& fileName, const char* format = 0, ColorMode mode = Auto);

@@ -4,6 +4,7 @@
 #include "painting/brushpatterns.h"
 #include "painting/rasterops.h"
 #include "x11/colors.h"
+#include "x11/pixmap.h"
 
 #include <algorithm>
 #include <cmath>
@@ -43,14 +44,30 @@ std::vector<char> dashesOf(Qt::PenStyle style)
     }
 }
 
-// They grow with the width. Thin pens have longer ones, so that they can be told apart.
+// Thin pens have longer ones, so that they can be told apart.
+std::vector<char> thinDashesOf(Qt::PenStyle style)
+{
+    switch (style) {
+    case Qt::DashLine:
+        return {18, 6};
+    case Qt::DotLine:
+        return {3, 3};
+    case Qt::DashDotLine:
+        return {9, 6, 3, 6};
+    case Qt::DashDotDotLine:
+        return {9, 3, 3, 3, 3, 3};
+    default:
+        return {};
+    }
+}
+
 std::vector<char> dashesOf(const QPen& pen)
 {
+    if (pen.width() <= 1)
+        return thinDashesOf(pen.style());
     std::vector<char> dashes = dashesOf(pen.style());
-    const int width = static_cast<int>(pen.width());
-    const int unit = width > 1 ? width : pen.style() == Qt::DashLine ? 6 : 3;
     for (char& dash : dashes)
-        dash = static_cast<char>(std::min(dash * unit, 127));
+        dash = static_cast<char>(std::min(dash * static_cast<int>(pen.width()), 127));
     return dashes;
 }
 
@@ -89,6 +106,17 @@ QRect mirroredRect(int x, int y, int w, int h)
         y -= h - 1;
     }
     return QRect(x, y, w, h);
+}
+
+void PainterData::needView()
+{
+    if (state.viewKnown || !device)
+        return;
+    state.viewKnown = true;
+    int width = 0;
+    int height = 0;
+    x11::drawableSize(drawable, &width, &height);
+    state.window = state.viewport = QRect(0, 0, width, height);
 }
 
 void PainterData::changed()

@@ -24,11 +24,13 @@ struct PainterState {
     bool worldOn = false;
     QRect window;
     QRect viewport;
+    bool viewKnown = false; // else both are all of the device
     bool viewOn = false;
     bool clipOn = false;
     QRegion clip; // in device coordinates
     QPoint pos;
     int tabStops = 0;
+    std::vector<int> tabArray;
 };
 
 // A context from the store, as long as nobody else has taken it over.
@@ -59,6 +61,8 @@ struct PainterData {
     KeptGc penGc;
     KeptGc brushGc;
 
+    // Before window and viewport are used: asks for the size of the device if they were not set.
+    void needView();
     // After a change of the state. All but the pen's and brush's own properties touch both contexts.
     void changed();
     void transformChanged();

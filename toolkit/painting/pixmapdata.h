@@ -17,6 +17,11 @@ struct PixmapData {
     int serial;
     WId id;
     QBitmap* mask;
+    QPixmap::Optimization optimization;
+};
+
+struct PixmapAccess {
+    static PixmapData* data(const QPixmap* pixmap) { return pixmap->d; }
 };
 
 // Answers QPixmap::fill(widget) and grabWidget; the kernel sets them.

@@ -1,10 +1,12 @@
-// QPainter: opening, state and coordinates.
+// QPainter: opening and state.
 #include <qpainter.h>
 
 #include "painting/paintdeviceprivate.h"
 #include "painting/painterdata.h"
 #include "painting/widgetpaintstate.h"
 #include "x11/connection.h"
+
+#include <map>
 
 using zeltk::PainterData;
 using zeltk::PainterState;
@@ -57,8 +59,10 @@ bool QPainter::begin(const QPaintDevice* device, bool unclipped)
         qWarning("QPainter::begin: Paint device cannot be null");
         return false;
     }
-    const bool isWidget = zeltk::PaintDeviceAccess::isWidget(device);
     QPaintDevice* target = const_cast<QPaintDevice*>(device);
+    if (QPaintDevice* replacement = redirect(target))
+        device = target = replacement;
+    const bool isWidget = zeltk::PaintDeviceAccess::isWidget(device);
     if (!isWidget) {
         QPixmap* pixmap = static_cast<QPixmap*>(target);
         if (pixmap->isNull()) {
@@ -284,78 +288,6 @@ void QPainter::setBrushOrigin(int x, int y)
     d->changed();
 }
 
-bool QPainter::hasWorldXForm() const
-{
-    return d->state.worldOn;
-}
-
-void QPainter::setWorldXForm(bool enable)
-{
-    d->state.worldOn = enable;
-    d->transformChanged();
-}
-
-const QWMatrix& QPainter::worldMatrix() const
-{
-    return d->state.world;
-}
-
-void QPainter::setWorldMatrix(const QWMatrix& matrix, bool combine)
-{
-    d->state.world = combine ? matrix * d->state.world : matrix;
-    setWorldXForm(!d->state.world.isIdentity());
-}
-
-void QPainter::translate(double dx, double dy)
-{
-    QWMatrix matrix;
-    setWorldMatrix(matrix.translate(dx, dy), true);
-}
-
-void QPainter::scale(double sx, double sy)
-{
-    QWMatrix matrix;
-    setWorldMatrix(matrix.scale(sx, sy), true);
-}
-
-void QPainter::shear(double sh, double sv)
-{
-    QWMatrix matrix;
-    setWorldMatrix(matrix.shear(sh, sv), true);
-}
-
-void QPainter::rotate(double degrees)
-{
-    QWMatrix matrix;
-    setWorldMatrix(matrix.rotate(degrees), true);
-}
-
-void QPainter::resetXForm()
-{
-    setWorldMatrix(QWMatrix());
-}
-
-QPoint QPainter::xForm(const QPoint& p) const
-{
-    int x = p.x();
-    int y = p.y();
-    d->map(&x, &y);
-    return QPoint(x, y);
-}
-
-QRect QPainter::xForm(const QRect& rect) const
-{
-    return d->mapRect(rect);
-}
-
-QPointArray QPainter::xForm(const QPointArray& points) const
-{
-    QPointArray result = points.copy();
-    for (uint i = 0; i < result.size(); ++i)
-        result.setPoint(i, xForm(points.point(i)));
-    return result;
-}
-
 void QPainter::setClipping(bool enable)
 {
     d->state.clipOn = enable;
@@ -388,12 +320,27 @@ void QPainter::setClipRegion(const QRegion& region, CoordinateMode mode)
     setClipping(true);
 }
 
-int QPainter::tabStops() const
+namespace
 {
-    return d->state.tabStops;
+
+std::map<QPaintDevice*, QPaintDevice*>& redirections()
+{
+    static std::map<QPaintDevice*, QPaintDevice*> targets;
+    return targets;
 }
 
-void QPainter::setTabStops(int pixels)
+} // namespace
+
+void QPainter::redirect(QPaintDevice* device, QPaintDevice* replacement)
 {
-    d->state.tabStops = pixels;
+    if (replacement)
+        redirections()[device] = replacement;
+    else
+        redirections().erase(device);
+}
+
+QPaintDevice* QPainter::redirect(QPaintDevice* device)
+{
+    const auto found = redirections().find(device);
+    return found == redirections().end() ? nullptr : found->second;
 }

@@ -3,44 +3,11 @@
 #include <qimage.h>
 #include <qpainter.h>
 
+#include "painting/imagetransform.h"
 #include "painting/painterdata.h"
 #include "painting/rasterops.h"
 
-#include <cmath>
-
 namespace x11 = zeltk::x11;
-
-namespace
-{
-
-// The image under a matrix without its translation; transparent where nothing comes to lie. `origin` is the
-// place of its corner.
-QImage transformed(const QImage& image, const QWMatrix& matrix, QPoint* origin)
-{
-    const QWMatrix linear(matrix.m11(), matrix.m12(), matrix.m21(), matrix.m22(), 0, 0);
-    const QRect box = linear.mapRect(image.rect());
-    bool invertible = false;
-    const QWMatrix back = linear.invert(&invertible);
-    QImage result(box.width(), box.height(), 32);
-    *origin = box.topLeft();
-    if (!invertible || result.isNull())
-        return QImage();
-    result.setAlphaBuffer(true);
-    result.fill(0);
-    for (int y = 0; y < result.height(); ++y)
-        for (int x = 0; x < result.width(); ++x) {
-            double fx;
-            double fy;
-            back.map(box.x() + x + 0.5, box.y() + y + 0.5, &fx, &fy);
-            const int sx = static_cast<int>(std::floor(fx));
-            const int sy = static_cast<int>(std::floor(fy));
-            if (image.valid(sx, sy))
-                result.setPixel(x, y, image.pixel(sx, sy));
-        }
-    return result;
-}
-
-} // namespace
 
 void QPainter::drawPixmap(int x, int y, const QPixmap& pixmap, int sx, int sy, int sw, int sh)
 {
@@ -59,12 +26,28 @@ void QPainter::drawPixmap(int x, int y, const QPixmap& pixmap, int sx, int sy, i
         return;
     }
     QPoint origin;
-    const QImage image = transformed(pixmap.convertToImage().copy(part), d->matrix, &origin);
+    const QImage image = zeltk::transformed(pixmap.convertToImage().copy(part), d->matrix, &origin);
     if (image.isNull())
         return;
     const QPixmap turned(image);
     zeltk::blit(d->baseKey(), d->drawable, d->bitmap, x + origin.x(), y + origin.y(), &turned, 0, 0,
                 turned.width(), turned.height(), false);
+}
+
+void QPainter::drawPixmap(const QRect& r, const QPixmap& pixmap)
+{
+    if (!isActive() || pixmap.isNull() || r.isEmpty())
+        return;
+    QWMatrix scaling;
+    scaling.scale(static_cast<double>(r.width()) / pixmap.width(),
+                  static_cast<double>(r.height()) / pixmap.height());
+    drawPixmap(r.x(), r.y(), r.size() == pixmap.size() ? pixmap : pixmap.xForm(scaling));
+}
+
+void QPainter::drawImage(const QRect& r, const QImage& image)
+{
+    if (isActive() && !image.isNull())
+        drawPixmap(r, QPixmap(image));
 }
 
 void QPainter::drawImage(int x, int y, const QImage& image, int sx, int sy, int sw, int sh, int)

@@ -39,7 +39,8 @@ QRect reachOf(const QFontMetrics& metrics, const TextRun& run)
     return QRect(run.x - side, run.baseline - metrics.ascent() - side / 2, run.width + 2 * side, 2 * side);
 }
 
-// Each letter stands where the widths of those before it, whole pixels all, put it.
+// Each letter stands where the widths of those before it, whole pixels all, put it. Turned text starts on a
+// whole pixel, too.
 x11::TextPiece pieceOf(const PainterData* d, const TextRun& run)
 {
     x11::TextPiece piece = {zeltk::faceOf(d->state.font), x11::LetterMatrix(), {}};
@@ -49,12 +50,12 @@ x11::TextPiece pieceOf(const PainterData* d, const TextRun& run)
         piece.matrix.yx = d->matrix.m12();
         piece.matrix.yy = d->matrix.m22();
     }
-    int pen = run.x;
+    int x = run.x;
+    int y = run.baseline;
+    d->map(&x, &y);
+    int pen = 0;
     for (const char16_t c : run.text) {
-        int x = pen;
-        int y = run.baseline;
-        d->map(&x, &y);
-        piece.glyphs.push_back({c, x, y});
+        piece.glyphs.push_back({c, x + qRound(piece.matrix.xx * pen), y + qRound(piece.matrix.yx * pen)});
         pen += x11::glyphBox(piece.font, c).advance;
     }
     return piece;
@@ -103,6 +104,12 @@ void drawMark(const PainterData* d, const TextMark& mark)
                       x11::gcFor(d->baseKey()));
 }
 
+zeltk::TextFormat formatOf(const PainterData* d, int flags)
+{
+    const std::vector<int>& tabs = d->state.tabArray;
+    return {flags, d->state.tabStops, tabs.empty() ? nullptr : tabs.data()};
+}
+
 QString firstOf(const QString& text, int length)
 {
     return length < 0 ? text : text.left(static_cast<uint>(length));
@@ -131,7 +138,7 @@ void QPainter::drawText(int x, int y, int w, int h, int flags, const QString& te
         return;
     const QRect rect(x, y, w, h);
     const TextLayout layout =
-        zeltk::layoutText(d->state.font, rect, {flags, d->state.tabStops, nullptr}, firstOf(text, length));
+        zeltk::layoutText(d->state.font, rect, formatOf(d, flags), firstOf(text, length));
     if (boundingRect)
         *boundingRect = layout.bounding;
     if ((flags & DontPrint) || !d->hasPen() || (!(flags & DontClip) && rect.isEmpty()))
@@ -155,7 +162,30 @@ void QPainter::drawText(int x, int y, int w, int h, int flags, const QString& te
 
 QRect QPainter::boundingRect(int x, int y, int w, int h, int flags, const QString& text, int length)
 {
-    return zeltk::layoutText(d->state.font, QRect(x, y, w, h), {flags, d->state.tabStops, nullptr},
-                             firstOf(text, length))
+    return zeltk::layoutText(d->state.font, QRect(x, y, w, h), formatOf(d, flags), firstOf(text, length))
         .bounding;
+}
+
+int QPainter::tabStops() const
+{
+    return d->state.tabStops;
+}
+
+void QPainter::setTabStops(int pixels)
+{
+    d->state.tabStops = pixels;
+}
+
+int* QPainter::tabArray() const
+{
+    return d->state.tabArray.empty() ? nullptr : d->state.tabArray.data();
+}
+
+void QPainter::setTabArray(int* places)
+{
+    d->state.tabArray.clear();
+    for (; places && *places; ++places)
+        d->state.tabArray.push_back(*places);
+    if (places)
+        d->state.tabArray.push_back(0);
 }

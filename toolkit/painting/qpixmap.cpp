@@ -1,8 +1,10 @@
-// QPixmap and QBitmap.
+// QPixmap.
 #include <qbitmap.h>
 #include <qimage.h>
 #include <qpixmap.h>
+#include <qwmatrix.h>
 
+#include "painting/imagetransform.h"
 #include "painting/pixmapdata.h"
 #include "x11/colors.h"
 #include "x11/connection.h"
@@ -28,9 +30,12 @@ int nextSerial()
     return ++last;
 }
 
+// All pixmaps are kept by the server whatever their optimization; it is only remembered.
+QPixmap::Optimization defaultOptim = QPixmap::NormalOptim;
+
 PixmapData* newData(int w, int h, int depth)
 {
-    PixmapData* data = new PixmapData{1, 0, 0, 0, depth == 1, false, nextSerial(), 0, nullptr};
+    PixmapData* data = new PixmapData{1, 0, 0, 0, false, false, nextSerial(), 0, nullptr, defaultOptim};
     if (!x11::connected()) {
         qFatal("QPixmap: a QApplication is needed before any pixmap");
         return data;
@@ -48,9 +53,16 @@ PixmapData* newData(int w, int h, int depth)
     return data;
 }
 
-PixmapData* nullData()
+PixmapData* newLike(const PixmapData* other, int w, int h)
 {
-    return new PixmapData{1, 0, 0, 0, false, false, nextSerial(), 0, nullptr};
+    PixmapData* data = newData(w, h, other->isBitmap || other->depth == 1 ? 1 : -1);
+    data->isBitmap = other->isBitmap;
+    return data;
+}
+
+PixmapData* nullData(bool isBitmap = false)
+{
+    return new PixmapData{1, 0, 0, 0, isBitmap, false, nextSerial(), 0, nullptr, defaultOptim};
 }
 
 void release(PixmapData* data)
@@ -85,13 +97,16 @@ uchar mirrored(uchar bits)
 
 QPixmap::QPixmap() : QPaintDevice(PixmapDevice), d(nullData()) {}
 
-QPixmap::QPixmap(int w, int h, int depth, Optimization) : QPaintDevice(PixmapDevice), d(newData(w, h, depth))
+QPixmap::QPixmap(int w, int h, int depth, Optimization optimization)
+    : QPaintDevice(PixmapDevice), d(newData(w, h, depth))
 {
+    setOptimization(optimization);
 }
 
-QPixmap::QPixmap(const QSize& size, int depth, Optimization)
+QPixmap::QPixmap(const QSize& size, int depth, Optimization optimization)
     : QPaintDevice(PixmapDevice), d(newData(size.width(), size.height(), depth))
 {
+    setOptimization(optimization);
 }
 
 QPixmap::QPixmap(const QImage& image) : QPaintDevice(PixmapDevice), d(nullData())
@@ -160,7 +175,7 @@ void QPixmap::detach()
 {
     if (d->references == 1)
         return;
-    PixmapData* own = newData(d->width, d->height, d->isBitmap ? 1 : -1);
+    PixmapData* own = newLike(d, d->width, d->height);
     copyPixels(d, own);
     own->selfMask = d->selfMask;
     own->mask = d->mask ? new QBitmap(*d->mask) : nullptr;
@@ -208,7 +223,7 @@ void QPixmap::fill(const QColor& color)
     if (isNull())
         return;
     if (d->references > 1)
-        setData(newData(d->width, d->height, d->isBitmap ? 1 : -1));
+        setData(newLike(d, d->width, d->height));
     d->serial = nextSerial();
     x11::GcKey key;
     key.bitmap = d->depth == 1;
@@ -225,12 +240,12 @@ void QPixmap::fill(const QWidget* widget, int xofs, int yofs)
 void QPixmap::resize(int w, int h)
 {
     if (w < 1 || h < 1) {
-        setData(nullData());
+        setData(nullData(d->isBitmap));
         return;
     }
     if (w == d->width && h == d->height)
         return;
-    PixmapData* fresh = newData(w, h, d->isBitmap ? 1 : -1);
+    PixmapData* fresh = newLike(d, w, h);
     copyPixels(d, fresh);
     setData(fresh);
 }
@@ -292,7 +307,8 @@ bool QPixmap::convertFromImage(const QImage& image, ColorMode)
         return false;
     }
     const bool toBitmap = isQBitmap();
-    PixmapData* fresh = newData(image.width(), image.height(), toBitmap ? 1 : -1);
+    PixmapData* fresh =
+        toBitmap ? newLike(d, image.width(), image.height()) : newData(image.width(), image.height(), -1);
     if (!fresh->id) {
         release(fresh);
         return false;
@@ -313,6 +329,48 @@ bool QPixmap::convertFromImage(const QImage& image, ColorMode)
         setMask(visible);
     }
     return true;
+}
+
+QPixmap QPixmap::xForm(const QWMatrix& matrix) const
+{
+    if (isNull())
+        return QPixmap();
+    QPoint origin;
+    const QImage image = zeltk::transformed(convertToImage(), matrix, &origin);
+    QPixmap result;
+    if (!image.isNull())
+        result.convertFromImage(image);
+    return result;
+}
+
+QWMatrix QPixmap::trueMatrix(const QWMatrix& matrix, int w, int h)
+{
+    double left;
+    double top;
+    int width;
+    int height;
+    zeltk::placeOf(matrix, w, h, &left, &top, &width, &height);
+    return QWMatrix(matrix.m11(), matrix.m12(), matrix.m21(), matrix.m22(), -left, -top);
+}
+
+QPixmap::Optimization QPixmap::optimization() const
+{
+    return d->optimization;
+}
+
+void QPixmap::setOptimization(Optimization optimization)
+{
+    d->optimization = optimization == DefaultOptim ? defaultOptimization() : optimization;
+}
+
+QPixmap::Optimization QPixmap::defaultOptimization()
+{
+    return defaultOptim;
+}
+
+void QPixmap::setDefaultOptimization(Optimization optimization)
+{
+    defaultOptim = optimization == DefaultOptim ? NormalOptim : optimization;
 }
 
 bool QPixmap::load(const QString& fileName, const char* format, ColorMode mode)
@@ -339,33 +397,4 @@ QPixmap QPixmap::grabWindow(WId window, int x, int y, int w, int h)
         x11::copyArea(window, pixmap.handle(), x11::gcFor(key), x, y, pixmap.width(), pixmap.height(), 0, 0);
     }
     return pixmap;
-}
-
-QBitmap::QBitmap() : QPixmap(0, 0, 1) {}
-
-QBitmap::QBitmap(int w, int h, bool clear, Optimization optimization) : QPixmap(w, h, 1, optimization)
-{
-    if (clear)
-        fill(Qt::color0);
-}
-
-QBitmap::QBitmap(const QSize& size, bool clear, Optimization optimization) : QPixmap(size, 1, optimization)
-{
-    if (clear)
-        fill(Qt::color0);
-}
-
-QBitmap::QBitmap(int w, int h, const uchar* bits, bool isXbitmap) : QPixmap(w, h, bits, isXbitmap) {}
-
-QBitmap::QBitmap(const QSize& size, const uchar* bits, bool isXbitmap)
-    : QPixmap(size.width(), size.height(), bits, isXbitmap)
-{
-}
-
-QBitmap::QBitmap(const QBitmap& other) : QPixmap(other) {}
-
-QBitmap& QBitmap::operator=(const QBitmap& other)
-{
-    QPixmap::operator=(other);
-    return *this;
 }

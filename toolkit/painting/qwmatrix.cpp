@@ -81,14 +81,15 @@ QPointArray QWMatrix::map(const QPointArray& points) const
     return result;
 }
 
+// The outline of the rectangle's area, unlike that of its pixels.
 QPointArray QWMatrix::mapToPolygon(const QRect& rect) const
 {
-    return map(QPointArray(rect));
+    return map(QPointArray(QRect(rect.x(), rect.y(), rect.width() + 1, rect.height() + 1)));
 }
 
 QRect QWMatrix::mapRect(const QRect& rect) const
 {
-    return mapToPolygon(rect).boundingRect();
+    return map(QPointArray(rect)).boundingRect();
 }
 
 QRegion QWMatrix::mapToRegion(const QRect& rect) const

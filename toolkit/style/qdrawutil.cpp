@@ -49,15 +49,18 @@ void fillInside(QPainter* p, const QRect& r, const QBrush* fill)
         p->fillRect(r, *fill);
 }
 
-// One ring of a groove: its left and upper sides keep all three of their corners.
-void drawGrooveRing(QPainter* p, const QRect& r, const QColor& upperLeft, const QColor& lowerRight)
+// The left and upper sides of a ring, with all three of their corners.
+void drawUpperLeft(QPainter* p, const QRect& r)
 {
-    p->setPen(lowerRight);
-    p->drawLine(r.left(), r.bottom(), r.right(), r.bottom());
-    p->drawLine(r.right(), r.top(), r.right(), r.bottom());
-    p->setPen(upperLeft);
     p->drawLine(r.left(), r.top(), r.right(), r.top());
     p->drawLine(r.left(), r.top(), r.left(), r.bottom());
+}
+
+// The right and lower sides; their far corners start `less` pixels later.
+void drawLowerRight(QPainter* p, const QRect& r, int less)
+{
+    p->drawLine(r.left() + less, r.bottom(), r.right(), r.bottom());
+    p->drawLine(r.right(), r.top() + less, r.right(), r.bottom());
 }
 
 // Two outlines, one pixel apart; the second one lies on the first.
@@ -82,7 +85,7 @@ void drawWinShades(QPainter* p, const QRect& r, const QColor& outerLight, const 
     if (r.width() < 2 || r.height() < 2)
         return;
     drawRing(p, r, outerLight, outerDark);
-    if (r.width() > 2 && r.height() > 2) {
+    if (r.width() > 4 && r.height() > 4) {
         drawRing(p, inside(r, 1), innerLight, innerDark);
         fillInside(p, inside(r, 2), fill);
     }
@@ -144,13 +147,22 @@ void qDrawShadeRect(QPainter* p, int x, int y, int w, int h, const QColorGroup& 
         fillInside(p, inside(all, fill ? 1 : 2), fill ? fill : &own);
         return;
     }
-    for (int i = 0; i < lineWidth; ++i)
-        drawGrooveRing(p, inside(all, i), upperLeft, lowerRight);
+    const int middle = lineWidth + midLineWidth;
+    p->setBrush(Qt::NoBrush);
+    p->setPen(upperLeft);
+    for (int i = 0; i < lineWidth; ++i) {
+        drawUpperLeft(p, inside(all, i));
+        drawLowerRight(p, inside(all, middle + i), 0);
+    }
+    p->setPen(g.mid());
     for (int i = 0; i < midLineWidth; ++i)
-        drawGrooveRing(p, inside(all, lineWidth + i), g.mid(), g.mid());
-    for (int i = 0; i < lineWidth; ++i)
-        drawGrooveRing(p, inside(all, lineWidth + midLineWidth + i), lowerRight, upperLeft);
-    fillInside(p, inside(all, lineWidth + midLineWidth), fill);
+        p->drawRect(inside(all, lineWidth + i));
+    p->setPen(lowerRight);
+    for (int i = 0; i < lineWidth; ++i) {
+        drawLowerRight(p, inside(all, i), 1);
+        drawUpperLeft(p, inside(all, middle + i));
+    }
+    fillInside(p, inside(all, middle), fill);
 }
 
 void qDrawShadeRect(QPainter* p, const QRect& r, const QColorGroup& g, bool sunken, int lineWidth,

@@ -173,8 +173,10 @@ void drawText(XId drawable, bool bitmap, const TextPiece& text, std::uint32_t co
             specs.push_back({XftCharIndex(display(), face, glyph.c), static_cast<short>(glyph.x),
                              static_cast<short>(glyph.y)});
     }
-    if (!specs.empty())
-        XftDrawGlyphSpec(draw, &ink, face, specs.data(), static_cast<int>(specs.size()));
+    // Turned letters may overlap; one by one they are laid over each other instead of adding up.
+    const size_t step = face == text.font->face ? specs.size() : 1;
+    for (size_t i = 0; i < specs.size(); i += step)
+        XftDrawGlyphSpec(draw, &ink, face, specs.data() + i, static_cast<int>(step));
 }
 
 XId textMask(const TextPiece& text, const ClipRect& place)
