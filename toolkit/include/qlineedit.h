@@ -20,7 +20,6 @@ class Q_EXPORT QLineEdit : public QFrame
 public:
     QLineEdit(QWidget* parent, const char* name = 0);
     QLineEdit(const QString& contents, QWidget* parent, const char* name = 0);
-    QLineEdit(const QString& contents, const QString& inputMask, QWidget* parent, const char* name = 0);
     ~QLineEdit();
 
     enum EchoMode { Normal, NoEcho, Password };
@@ -70,9 +69,6 @@ public:
     //! Whether a press on the selection leaves it alone until the button is released.
     bool dragEnabled() const;
 
-    //! Letters stand for the kind of character each place takes; what follows the last ; stands for blanks.
-    QString inputMask() const;
-    void setInputMask(const QString& mask);
     bool hasAcceptableInput() const;
 
 public slots:
@@ -108,6 +104,7 @@ signals:
 
 protected:
     bool event(QEvent* event);
+    void timerEvent(QTimerEvent* event);
     void mousePressEvent(QMouseEvent* event);
     void mouseMoveEvent(QMouseEvent* event);
     void mouseReleaseEvent(QMouseEvent* event);
@@ -123,6 +120,13 @@ private slots:
     void clipboardChanged();
 
 private:
+    void init();
+    void returnKey();
+    bool plainKey(QKeyEvent* event);
+    bool controlKey(QKeyEvent* event);
+    bool controlEditKey(int key);
+    void wordKey(bool forward, bool mark);
+
     friend struct zeltk::LineEditData;
     zeltk::LineEditData* d;
 
