@@ -52,7 +52,7 @@ public:
     //! Hue 0-359 (-1 for greys), saturation and value 0-255.
     QColor(int x, int y, int z, Spec spec);
     QColor(QRgb rgb, uint pixel = 0xffffffff);
-    //! "#RGB", "#RRGGBB", "#RRRGGGBBB", "#RRRRGGGGBBBB", or a colour name that the X server knows.
+    //! "#RGB", "#RRGGBB", "#RRRGGGBBB", "#RRRRGGGGBBBB", or a name of the X11 colour list.
     QColor(const QString& name);
     QColor(const char* name);
     QColor(const QColor& other) : value(other.value), valid(other.valid) {}

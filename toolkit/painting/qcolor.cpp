@@ -1,6 +1,7 @@
 // QColor.
 #include <qcolor.h>
 
+#include "painting/colornames.h"
 #include "tools/unicode.h"
 #include "x11/colors.h"
 #include "x11/connection.h"
@@ -91,7 +92,7 @@ void QColor::setNamedColor(const QString& name)
             qWarning("QColor::setNamedColor: could not parse color '%s'", text.c_str());
     } else {
         std::uint32_t found = 0;
-        valid = !text.empty() && zeltk::x11::lookupColor(text, &found);
+        valid = !text.empty() && zeltk::colorByName(text, &found);
         rgb = 0xff000000 | found;
     }
     value = valid ? rgb : static_cast<QRgb>(invalidValue);

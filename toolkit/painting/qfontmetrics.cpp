@@ -16,7 +16,7 @@ namespace
 
 // The letters whose bearings stand for all of a font's.
 const char16_t reachLeft[] = u"FTVXYZ";
-const char16_t reachRight[] = u"FTVXYZfr\u00cd\u0192\u0249\u04b0\u20a7";
+const char16_t reachRight[] = u"FKTVXYZfr\u00cd\u0149\u0192";
 
 std::u16string firstOf(const QString& text, int length)
 {
@@ -51,10 +51,9 @@ int QFontMetrics::ascent() const
     return zeltk::x11::ascent(faceOf(font));
 }
 
-// height() counts the base line itself.
 int QFontMetrics::descent() const
 {
-    return zeltk::x11::descent(faceOf(font)) - 1;
+    return zeltk::x11::descent(faceOf(font));
 }
 
 int QFontMetrics::leading() const
@@ -166,9 +165,15 @@ int QFontMetrics::lineWidth() const
 
 QFontInfo::QFontInfo(const QFont& font) : wanted(font) {}
 
+// A family that was asked for by its name comes with the foundry, a stand-in without.
 QString QFontInfo::family() const
 {
-    return zeltk::fromUtf8(zeltk::x11::familyOf(faceOf(wanted)));
+    const zeltk::x11::Font* face = faceOf(wanted);
+    const QString found = zeltk::fromUtf8(zeltk::x11::familyOf(face));
+    const QString foundry = zeltk::fromUtf8(zeltk::x11::foundryOf(face));
+    if (foundry.isEmpty() || found.lower() != wanted.family().lower())
+        return found;
+    return found + " [" + foundry + "]";
 }
 
 int QFontInfo::pointSize() const

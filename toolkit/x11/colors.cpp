@@ -4,8 +4,6 @@
 #include "x11/connection.h"
 #include "x11/xlib.h"
 
-#include <map>
-
 namespace zeltk
 {
 namespace x11
@@ -75,26 +73,6 @@ std::uint32_t colorOf(unsigned long pixel)
 {
     return fromPixel(pixel, visual().red) << 16 | fromPixel(pixel, visual().green) << 8 |
            fromPixel(pixel, visual().blue);
-}
-
-bool lookupColor(const std::string& name, std::uint32_t* rgb)
-{
-    static std::map<std::string, std::int64_t> known; // -1: there is none
-    if (!connected())
-        return false;
-    const auto found = known.find(name);
-    if (found == known.end()) {
-        XColor exact;
-        XColor shown;
-        std::int64_t answer = -1;
-        if (XLookupColor(display(), DefaultColormap(display(), screen()), name.c_str(), &exact, &shown))
-            answer = (exact.red >> 8) << 16 | (exact.green >> 8) << 8 | exact.blue >> 8;
-        known[name] = answer;
-    }
-    const std::int64_t answer = known[name];
-    if (answer >= 0)
-        *rgb = static_cast<std::uint32_t>(answer);
-    return answer >= 0;
 }
 
 int colorCount()

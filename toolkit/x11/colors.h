@@ -3,7 +3,6 @@
 #define ZELTK_X11_COLORS_H
 
 #include <cstdint>
-#include <string>
 
 namespace zeltk
 {
@@ -14,8 +13,6 @@ namespace x11
 unsigned long pixelOf(std::uint32_t rgb);
 // The colour of a pixel value.
 std::uint32_t colorOf(unsigned long pixel);
-// Asks the server for a colour by name, each name once. False if there is none of that name.
-bool lookupColor(const std::string& name, std::uint32_t* rgb);
 int colorCount();
 
 } // namespace x11

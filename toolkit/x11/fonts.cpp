@@ -54,6 +54,14 @@ XftFont* openFace(const FontRequest& request, int pixelSize)
     return match ? XftFontOpenPattern(display(), match) : nullptr;
 }
 
+std::string propertyOf(const Font* font, const char* property)
+{
+    FcChar8* text = nullptr;
+    if (!font || FcPatternGetString(font->face->pattern, property, 0, &text) != FcResultMatch)
+        return std::string();
+    return reinterpret_cast<const char*>(text);
+}
+
 int scaled(const Font* font, int measure)
 {
     return static_cast<int>(std::lround(measure * font->scale));
@@ -102,7 +110,7 @@ int ascent(const Font* font)
 
 int descent(const Font* font)
 {
-    return font ? scaled(font, font->measured->descent) : 3;
+    return font ? scaled(font, font->measured->descent - 1) : 2;
 }
 
 int lineHeight(const Font* font)
@@ -117,10 +125,13 @@ int maxAdvance(const Font* font)
 
 std::string familyOf(const Font* font)
 {
-    FcChar8* family = nullptr;
-    if (!font || FcPatternGetString(font->face->pattern, FC_FAMILY, 0, &family) != FcResultMatch)
-        return std::string();
-    return reinterpret_cast<const char*>(family);
+    return propertyOf(font, FC_FAMILY);
+}
+
+std::string foundryOf(const Font* font)
+{
+    const std::string foundry = propertyOf(font, FC_FOUNDRY);
+    return foundry == "unknown" ? std::string() : foundry;
 }
 
 bool isBold(const Font* font)

@@ -35,11 +35,13 @@ class Font;
 const Font* openFont(const FontRequest& request);
 
 int ascent(const Font* font);
-// Rows below the base line.
+// Rows below that of the base line.
 int descent(const Font* font);
 int lineHeight(const Font* font);
 int maxAdvance(const Font* font);
 std::string familyOf(const Font* font);
+// Who made it; empty if that is unknown.
+std::string foundryOf(const Font* font);
 bool isBold(const Font* font);
 bool isFixed(const Font* font);
 
