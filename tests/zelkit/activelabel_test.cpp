@@ -2,6 +2,7 @@
 #include <zelactivelabel.h>
 
 #include "pixels.h"
+#include "sentevents.h"
 #include "signalrecorder.h"
 #include "waiting.h"
 #include "xinput.h"
@@ -45,36 +46,6 @@ protected:
         return false;
     }
 };
-
-bool sendMouse(QWidget* widget, QEvent::Type type, int x, int y, int button = Qt::LeftButton)
-{
-    QMouseEvent event(type, QPoint(x, y), widget->mapToGlobal(QPoint(x, y)), button,
-                      type == QEvent::MouseButtonRelease ? button : 0);
-    QApplication::sendEvent(widget, &event);
-    return event.isAccepted();
-}
-
-void press(QWidget* widget, int x = 5, int y = 5, int button = Qt::LeftButton)
-{
-    sendMouse(widget, QEvent::MouseButtonPress, x, y, button);
-}
-
-void release(QWidget* widget, int x = 5, int y = 5, int button = Qt::LeftButton)
-{
-    sendMouse(widget, QEvent::MouseButtonRelease, x, y, button);
-}
-
-void enter(QWidget* widget)
-{
-    QEvent event(QEvent::Enter);
-    QApplication::sendEvent(widget, &event);
-}
-
-void leave(QWidget* widget)
-{
-    QEvent event(QEvent::Leave);
-    QApplication::sendEvent(widget, &event);
-}
 
 // A yellow window with one label at (20, 30).
 class ActiveLabel : public testing::Test
@@ -396,14 +367,20 @@ TEST_F(ActiveLabel, KeepsItsMouseEventsFromTheParent)
     EXPECT_EQ(counter.presses, 0);
 }
 
-TEST_F(ActiveLabel, DisabledItNeitherLightsUpNorClicks)
+TEST_F(ActiveLabel, DisabledItDoesNotClick)
 {
     label->setEnabled(false);
-    const Pixels disabled = Pixels::of(label);
+    EventCounter counter(&window);
     xinput::click(label, 40, 20);
     settle();
     EXPECT_EQ(recorder.take(), "");
-    EXPECT_EQ(Pixels::of(label).differenceFrom(disabled), "");
+    EXPECT_EQ(counter.presses, 0);
+    const Pixels hovered = Pixels::of(label);
+    xinput::pressButton();
+    EXPECT_EQ(Pixels::of(label).differenceFrom(hovered), "");
+    xinput::releaseButton();
+    settle();
+    EXPECT_EQ(recorder.take(), "");
 }
 
 TEST_F(ActiveLabel, TheFourOrientations)
