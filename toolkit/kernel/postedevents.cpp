@@ -1,25 +1,21 @@
 // QApplication: events that wait for the event loop.
 #include "kernel/applicationdata.h"
 #include "kernel/applicationprivate.h"
+#include "kernel/eventqueue.h"
 #include "kernel/widgetdata.h"
 
 #include <qapplication.h>
 
 #include <algorithm>
-#include <list>
-#include <vector>
+
+using zeltk::EventQueue;
 
 namespace
 {
 
-struct Posted {
-    QObject* receiver;
-    QEvent* event;
-};
-
-std::list<Posted>& queue()
+EventQueue& queue()
 {
-    static auto* const posted = new std::list<Posted>;
+    static auto* const posted = new EventQueue;
     return *posted;
 }
 
@@ -50,18 +46,14 @@ QEvent* merged(QEvent* before, QEvent* now)
 // widget.
 bool joinsEarlier(QObject* receiver, QEvent* event)
 {
-    for (Posted& posted : queue()) {
-        if (posted.receiver != receiver || posted.event->type() != event->type())
-            continue;
-        QEvent* both = merged(posted.event, event);
-        if (!both)
-            return false;
-        zeltk::EventAccess::setPosted(both, true);
-        delete posted.event;
-        posted.event = both;
-        return true;
-    }
-    return false;
+    QEvent** const earlier = queue().find(receiver, event->type());
+    QEvent* const both = earlier ? merged(*earlier, event) : nullptr;
+    if (!both)
+        return false;
+    zeltk::EventAccess::setPosted(both, true);
+    delete *earlier;
+    *earlier = both;
+    return true;
 }
 
 void deliver(QObject* receiver, QEvent* event)
@@ -74,26 +66,35 @@ void deliver(QObject* receiver, QEvent* event)
     QApplication::sendEvent(receiver, event);
 }
 
-std::vector<const QEvent*> queuedPaints()
+void discard(EventQueue::Place place)
 {
-    std::vector<const QEvent*> paints;
-    for (const Posted& posted : queue())
-        if (posted.event->type() == QEvent::Paint)
-            paints.push_back(posted.event);
-    return paints;
+    QEvent* const event = queue().at(place).event;
+    queue().remove(place);
+    delete event;
 }
 
-template <typename Condition>
-void removeIf(Condition condition)
+bool isPaint(EventQueue::Place place)
 {
-    for (auto it = queue().begin(); it != queue().end();) {
-        if (condition(*it)) {
-            delete it->event;
-            it = queue().erase(it);
-        } else {
-            ++it;
-        }
-    }
+    return queue().at(place).event->type() == QEvent::Paint;
+}
+
+// Events count only from before the limit of their kind.
+EventQueue::Place firstWanted(QObject* receiver, int type, EventQueue::Place limit,
+                              EventQueue::Place paintLimit)
+{
+    EventQueue::Place place = queue().first(0, receiver, type);
+    while (place != queue().end() && place >= (isPaint(place) ? paintLimit : limit))
+        place = queue().first(place + 1, receiver, type);
+    return place;
+}
+
+// Whether another event than a paint event waits behind that place.
+bool moreWait(EventQueue::Place place, QObject* receiver)
+{
+    do
+        place = queue().first(place + 1, receiver, 0);
+    while (place != queue().end() && isPaint(place));
+    return place != queue().end();
 }
 
 } // namespace
@@ -103,15 +104,18 @@ namespace zeltk
 
 void removePostedEvents(QObject* receiver)
 {
-    removeIf([receiver](const Posted& posted) { return posted.receiver == receiver; });
+    for (EventQueue::Place place : queue().placesOf(receiver))
+        discard(place);
 }
 
 void removePostedChildEvents(QObject* parent, QObject* child)
 {
-    removeIf([=](const Posted& posted) {
-        return posted.receiver == parent && posted.event->type() == QEvent::ChildInserted &&
-               static_cast<QChildEvent*>(posted.event)->child() == child;
-    });
+    for (EventQueue::Place place : queue().placesOf(parent)) {
+        const QEvent* const event = queue().at(place).event;
+        if (event->type() == QEvent::ChildInserted &&
+            static_cast<const QChildEvent*>(event)->child() == child)
+            discard(place);
+    }
 }
 
 bool hasPostedEvents()
@@ -133,7 +137,7 @@ void QApplication::postEvent(QObject* receiver, QEvent* event)
         return;
     }
     zeltk::EventAccess::setPosted(event, true);
-    queue().push_back({receiver, event});
+    queue().append(receiver, event);
 }
 
 void QApplication::sendPostedEvents()
@@ -151,20 +155,16 @@ void QApplication::sendPostedEvents(QObject* receiver, int type)
         sendPostedEvents(receiver, QEvent::ChildInserted);
         sendPostedEvents(receiver, QEvent::LayoutHint);
     }
-    const std::vector<const QEvent*> paints = queuedPaints();
-    const auto isWanted = [&](const Posted& p) {
-        return (!receiver || p.receiver == receiver) && (!type || p.event->type() == type) &&
-               (p.event->type() != QEvent::Paint ||
-                std::find(paints.begin(), paints.end(), p.event) != paints.end());
-    };
-    const auto isReceivers = [receiver](const Posted& p) { return !receiver || p.receiver == receiver; };
-    for (bool last = false; !last;) {
-        const auto place = std::find_if(queue().begin(), queue().end(), isWanted);
+    const EventQueue::Place paintLimit = queue().end();
+    EventQueue::Place limit = ~EventQueue::Place(0);
+    for (;;) {
+        const EventQueue::Place place = firstWanted(receiver, type, limit, paintLimit);
         if (place == queue().end())
             return;
-        last = std::none_of(std::next(place), queue().end(), isReceivers);
-        const Posted posted = *place;
-        queue().erase(place);
+        if (!isPaint(place) && !moreWait(place, receiver))
+            limit = std::min(limit, queue().end());
+        const zeltk::PostedEvent posted = queue().at(place);
+        queue().remove(place);
         zeltk::EventAccess::setPosted(posted.event, false);
         deliver(posted.receiver, posted.event);
         delete posted.event;
