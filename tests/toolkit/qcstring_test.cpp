@@ -46,6 +46,10 @@ TEST(CString, CopiesChangeTogetherUntilOneIsAssigned)
     QCString own = one.copy();
     own[0] = 'a';
     EXPECT_STREQ("Xbcdef", one);
+    QCString shorter = one;
+    shorter.truncate(2);
+    EXPECT_STREQ("Xb", shorter);
+    EXPECT_STREQ("Xbcdef", one) << "a new size is the copy's own";
     other += "g";
     EXPECT_STREQ("Xbcdef", one) << "appending makes a text of its own";
     EXPECT_STREQ("Xbcdefg", other);
@@ -93,6 +97,7 @@ TEST(CString, Changing)
     EXPECT_STREQ("R_LL!", text.replace('l', 'L'));
     EXPECT_STREQ("R_<><>!", text.replace('L', "<>"));
     EXPECT_STREQ("R_!", text.replace("<>", ""));
+    EXPECT_STREQ("R__!", text.replace('_', "__"));
     EXPECT_STREQ("xxx", (text.fill('x', 3), text));
     EXPECT_STREQ("HELLO", QCString("hello").upper());
     EXPECT_STREQ("hello", QCString("HELLO").lower());
@@ -155,7 +160,7 @@ TEST(CStringFunctions, StandNullPointers)
     char* copy = qstrdup("dup");
     EXPECT_STREQ("dup", copy);
     delete[] copy;
-    char room[10];
+    char room[] = "zzzzzzzzz";
     EXPECT_EQ(0, qstrcpy(room, 0));
     EXPECT_STREQ("abcd", qstrncpy(room, "abcdefghijkl", 5)) << "always ends with a zero";
 }

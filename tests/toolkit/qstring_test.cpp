@@ -93,6 +93,14 @@ TEST(String, CopiesChangeOnTheirOwn)
     EXPECT_EQ("samesame", one);
     one += one;
     EXPECT_EQ("samesamesamesame", one);
+    one = "aba";
+    EXPECT_EQ("abababa", one.replace("a", one));
+    EXPECT_STREQ("abababa", one.latin1());
+    one[1] = 'x';
+    EXPECT_STREQ("axababa", one.latin1()) << "the 8-bit text follows";
+    QString wasNull;
+    wasNull.setLength(0);
+    EXPECT_FALSE(wasNull.isNull());
 }
 
 TEST(String, ComesFromManyThings)

@@ -131,7 +131,8 @@ QString& QString::operator=(QChar c)
     return *this = QString(c);
 }
 
-// Makes the text this string's own and no longer null, ready to be changed.
+// Makes the text this string's own, ready to be changed; null's text is always shared, so it is no longer
+// null.
 void QString::detach()
 {
     if (d->references > 1) {
@@ -139,7 +140,6 @@ void QString::detach()
         release(d);
         d = own;
     }
-    d->isNull = false;
     d->hasLatin1 = false;
 }
 
