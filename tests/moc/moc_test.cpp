@@ -166,6 +166,38 @@ TEST_F(Moc, TheOptionsChooseWhatIsIncluded)
     EXPECT_NE(contentsOf(folder + "/result").find("A::staticMetaObject"), std::string::npos);
 }
 
+TEST_F(Moc, TheHeaderIsFoundFromTheFolderOfTheCode)
+{
+    ASSERT_EQ(std::system(("mkdir " + folder + "/made").c_str()), 0);
+    EXPECT_EQ(run(inClass(""), "-o made/moc_input.cpp").status, 0);
+    EXPECT_NE(contentsOf(folder + "/made/moc_input.cpp").find("#include \"../input.h\""), std::string::npos);
+}
+
+TEST_F(Moc, OnlyHeadersAreIncludedUnlessAskedFor)
+{
+    std::ofstream(folder + "/input.cpp") << inClass("");
+    EXPECT_EQ(runOn("input.cpp", "").code.find("#include \"input.cpp\""), std::string::npos);
+    EXPECT_NE(runOn("input.cpp", "-f").code.find("#include \"input.cpp\""), std::string::npos);
+}
+
+TEST_F(Moc, OperatorsWithABodyHideNothingBehindThem)
+{
+    const Result result = run(
+        inClass("    A& operator=(const A& other) { return *this; }\n    bool operator()(int x) { return x; "
+                "}\n    void operator delete(void*) { }\nsignals:\n void s();\n"));
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_EQ(table(result, "signalTable"), "s();");
+}
+
+TEST_F(Moc, PublicBasesCanBeCastTo)
+{
+    const Result result = run("class A : public QObject, public Printable, Hidden, protected Guarded\n"
+                              "{\n    Q_OBJECT\n};\n");
+    EXPECT_NE(result.code.find("(Printable*)this"), std::string::npos);
+    EXPECT_EQ(result.code.find("Hidden"), std::string::npos);
+    EXPECT_EQ(result.code.find("Guarded"), std::string::npos);
+}
+
 TEST_F(Moc, AFileWithoutClassesIsAWarningOnly)
 {
     const Result result = run("int x;\n");

@@ -27,9 +27,10 @@ struct Member {
 };
 
 struct Class {
-    std::string name; // with the classes and namespaces around it
-    std::string base;
-    bool hasMacro; // Q_OBJECT
+    std::string name;                 // with the classes and namespaces around it
+    std::string base;                 // the first one, a QObject
+    std::vector<std::string> mixedIn; // other public bases
+    bool hasMacro;                    // Q_OBJECT
     int line;
     std::vector<Member> signalList;
     std::vector<Member> slotList;

@@ -61,8 +61,11 @@ void writeNames(std::ostream& out, const Class& c)
     out << "QMetaObject* " << c.name << "::metaObject() const\n{\n    return staticMetaObject();\n}\n\n"
         << "const char* " << c.name << "::className() const\n{\n    return \"" << c.name << "\";\n}\n\n"
         << "void* " << c.name << "::qt_cast(const char* className)\n{\n"
-        << "    return qstrcmp(className, \"" << c.name << "\") == 0 ? this : " << c.base
-        << "::qt_cast(className);\n}\n\n";
+        << "    if (qstrcmp(className, \"" << c.name << "\") == 0)\n        return this;\n";
+    for (const std::string& base : c.mixedIn)
+        out << "    if (qstrcmp(className, \"" << base << "\") == 0)\n        return (" << base
+            << "*)this;\n";
+    out << "    return " << c.base << "::qt_cast(className);\n}\n\n";
     for (const bool utf8 : {false, true})
         out << "QString " << c.name << (utf8 ? "::trUtf8" : "::tr")
             << "(const char* text, const char* comment)\n{\n"

@@ -4,6 +4,7 @@
 
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <sstream>
@@ -14,7 +15,7 @@ namespace
 const char usage[] = "usage: zeltk-moc [options] file\n"
                      "Writes the code behind Q_OBJECT, signals and slots of a C++ file.\n"
                      "  -o FILE    write to FILE instead of the standard output\n"
-                     "  -i         do not include the file in the code\n"
+                     "  -i         do not include the file in the code; usual for all but headers\n"
                      "  -f[HEADER] include HEADER, or the file itself\n"
                      "  -p PATH    put PATH/ before the name of the included file\n"
                      "  -v         show the version\n";
@@ -25,6 +26,7 @@ struct Options {
     std::string include;
     std::string path;
     bool noInclude = false;
+    bool forceInclude = false;
 };
 
 int fail(const std::string& text)
@@ -53,6 +55,7 @@ bool readOptions(int argc, char** argv, Options* options)
         if (word == "-i") {
             options->noInclude = true;
         } else if (word.compare(0, 2, "-f") == 0) {
+            options->forceInclude = true;
             options->include = word.substr(2);
         } else if (word.compare(0, 2, "-o") == 0) {
             if (!takeValue(argc, argv, &i, &options->output))
@@ -71,13 +74,26 @@ bool readOptions(int argc, char** argv, Options* options)
     return !options->input.empty();
 }
 
+bool isHeader(const std::string& name)
+{
+    const std::string extension = std::filesystem::path(name).extension().string();
+    return extension.compare(0, 2, ".h") == 0 || extension.compare(0, 2, ".H") == 0;
+}
+
+// The file is looked for from the folder of the code that includes it.
 std::string includeName(const Options& options)
 {
-    if (options.noInclude)
+    if (options.noInclude || (!options.forceInclude && !isHeader(options.input)))
         return "";
     if (!options.include.empty())
         return options.include;
-    return options.path.empty() ? options.input : options.path + "/" + options.input;
+    if (!options.path.empty())
+        return options.path + "/" + options.input;
+    const std::filesystem::path input(options.input);
+    const std::filesystem::path folder = std::filesystem::path(options.output).parent_path();
+    if (input.is_absolute() || folder.empty())
+        return options.input;
+    return std::filesystem::proximate(input, folder).string();
 }
 
 int run(const Options& options)

@@ -135,12 +135,23 @@ private:
                 skipBalanced("{", "}");
                 take(";");
                 return;
+            } else if (take("operator")) {
+                skipOperatorSigns();
             } else if (take("=")) {
                 skipInitializer();
             } else {
                 next();
             }
         }
+    }
+
+    // Up to the arguments.
+    void skipOperatorSigns()
+    {
+        if (at().is("(") && at(1).is(")"))
+            place += 2;
+        while (at().kind == Token::Sign && !at().is("("))
+            next();
     }
 
     void skipInitializer()
@@ -190,39 +201,42 @@ private:
             return;
         }
         found.name = scope + name;
+        const Access access = isStruct ? Access::Public : Access::Private;
         if (take(":"))
-            found.base = readBases(found.line);
+            readBases(&found, access);
         if (!take("{"))
             throw Error(at().line, "'{' expected in the class " + found.name);
-        readBody(&found, isStruct ? Access::Public : Access::Private);
+        readBody(&found, access);
         skipStatement(); // variables of the class may follow
         finish(found);
     }
 
-    std::string readBases(int line)
+    void readBases(Class* found, Access access)
     {
-        std::vector<Token> first;
-        bool inFirst = true;
-        while (!at().is("{")) {
-            if (at().kind == Token::End || at().is(";"))
-                throw Error(line, "the class has no body");
-            if (at().is("<")) {
+        do {
+            Access baseAccess = access;
+            std::vector<Token> base;
+            while (!at().is("{") && !at().is(",")) {
+                if (at().kind == Token::End || at().is(";"))
+                    throw Error(found->line, "the class has no body");
                 const size_t from = place;
-                skipBalanced("<", ">");
-                if (inFirst)
-                    first.insert(first.end(), tokens.begin() + static_cast<long>(from),
-                                 tokens.begin() + static_cast<long>(place));
-                continue;
+                if (at().is("<"))
+                    skipBalanced("<", ">");
+                else
+                    next();
+                if (tokens[from].is("public"))
+                    baseAccess = Access::Public;
+                else if (tokens[from].is("protected") || tokens[from].is("private"))
+                    baseAccess = Access::Private;
+                else if (!tokens[from].is("virtual"))
+                    base.insert(base.end(), tokens.begin() + static_cast<long>(from),
+                                tokens.begin() + static_cast<long>(place));
             }
-            if (at().is(","))
-                inFirst = false;
-            const bool word =
-                at().is("virtual") || at().is("public") || at().is("protected") || at().is("private");
-            if (inFirst && !word)
-                first.push_back(at());
-            next();
-        }
-        return joined(first, true);
+            if (found->base.empty())
+                found->base = joined(base, true);
+            else if (baseAccess == Access::Public)
+                found->mixedIn.push_back(joined(base, true));
+        } while (take(","));
     }
 
     void readBody(Class* found, Access access)
