@@ -16,8 +16,8 @@ struct QUObject {
 
 namespace zeltk
 {
-// The text in the user's language, as the application's translators have it.
-Q_EXPORT QString translated(const char* context, const char* text, const char* comment, bool utf8);
+// The class's text in the user's language, as the application's translators have it.
+Q_EXPORT QString translated(const QMetaObject* context, const char* text, const char* comment, bool utf8);
 } // namespace zeltk
 
 #define slots
@@ -44,8 +44,14 @@ public:                                                                         
     {                                                                                                        \
         return this;                                                                                         \
     }                                                                                                        \
-    static QString tr(const char* text, const char* comment = 0);                                            \
-    static QString trUtf8(const char* text, const char* comment = 0);                                        \
+    static QString tr(const char* text, const char* comment = 0)                                             \
+    {                                                                                                        \
+        return zeltk::translated(staticMetaObject(), text, comment, false);                                  \
+    }                                                                                                        \
+    static QString trUtf8(const char* text, const char* comment = 0)                                         \
+    {                                                                                                        \
+        return zeltk::translated(staticMetaObject(), text, comment, true);                                   \
+    }                                                                                                        \
                                                                                                              \
 private:                                                                                                     \
     static QMetaObject* metaObj;                                                                             \

@@ -203,12 +203,12 @@ void* QObject::qt_cast(const char* className)
 
 QString QObject::tr(const char* text, const char* comment)
 {
-    return zeltk::translated("QObject", text, comment, false);
+    return zeltk::translated(staticMetaObject(), text, comment, false);
 }
 
 QString QObject::trUtf8(const char* text, const char* comment)
 {
-    return zeltk::translated("QObject", text, comment, true);
+    return zeltk::translated(staticMetaObject(), text, comment, true);
 }
 
 void QObject::destroyed()

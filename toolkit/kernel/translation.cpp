@@ -3,6 +3,7 @@
 #include "kernel/widgetdata.h"
 
 #include <qapplication.h>
+#include <qmetaobject.h>
 #include <qtranslator.h>
 
 #include <algorithm>
@@ -28,11 +29,11 @@ void tellLanguageChange()
 namespace zeltk
 {
 
-QString translated(const char* context, const char* text, const char* comment, bool utf8)
+QString translated(const QMetaObject* context, const char* text, const char* comment, bool utf8)
 {
     if (!qApp)
         return decoded(text, utf8);
-    return qApp->translate(context, text, comment,
+    return qApp->translate(context->className(), text, comment,
                            utf8 ? QApplication::UnicodeUTF8 : QApplication::DefaultCodec);
 }
 

@@ -66,11 +66,6 @@ void writeNames(std::ostream& out, const Class& c)
         out << "    if (qstrcmp(className, \"" << base << "\") == 0)\n        return (" << base
             << "*)this;\n";
     out << "    return " << c.base << "::qt_cast(className);\n}\n\n";
-    for (const bool utf8 : {false, true})
-        out << "QString " << c.name << (utf8 ? "::trUtf8" : "::tr")
-            << "(const char* text, const char* comment)\n{\n"
-            << "    return zeltk::translated(\"" << c.name << "\", text, comment, "
-            << (utf8 ? "true" : "false") << ");\n}\n\n";
 }
 
 void writeSignal(std::ostream& out, const Class& c, size_t index)
