@@ -270,6 +270,16 @@ void PainterData::fillTurnedRect(const QRect& rect, const x11::GcSlot* gc) const
     x11::drawPolyline(drawable, gc, corners);
 }
 
+void PainterData::fillArc(const QRect& rect, int startAngle, int angleLength, bool chord)
+{
+    if (!hasBrush())
+        return;
+    const QRect r = mapRect(rect);
+    const int less = hasPen() ? 1 : 0;
+    x11::fillArc(drawable, forBrush(), r.x(), r.y(), r.width() - less, r.height() - less, startAngle * 4,
+                 angleLength * 4, chord);
+}
+
 void PainterData::fillPoints(const std::vector<x11::Point>& points, bool winding, const x11::GcSlot* gc) const
 {
     if (points.size() > 2)

@@ -98,6 +98,8 @@ struct PainterData {
     // Fills a rectangle in the program's coordinates.
     void fillMappedRect(const QRect& rect, const x11::GcSlot* gc) const;
     void fillTurnedRect(const QRect& rect, const x11::GcSlot* gc) const;
+    // Inside the outline of an arc in the program's coordinates, as far as it is closed.
+    void fillArc(const QRect& rect, int startAngle, int angleLength, bool chord);
     void fillPoints(const std::vector<x11::Point>& points, bool winding, const x11::GcSlot* gc) const;
 };
 

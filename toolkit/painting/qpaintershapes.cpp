@@ -58,7 +58,19 @@ void QPainter::drawWinFocusRect(int x, int y, int w, int h, const QColor& backgr
     key.foreground = d->pixelOf(qGray(backgroundColor.rgb()) <= 110 ? white : black);
     key.lineStyle = x11::LineOnOff;
     key.dashes = {1, 1};
-    x11::drawRectangle(d->drawable, x11::gcFor(key), r.x(), r.y(), r.width() - 1, r.height() - 1);
+    const auto left = static_cast<short>(r.left());
+    const auto top = static_cast<short>(r.top());
+    const auto right = static_cast<short>(r.right());
+    const auto bottom = static_cast<short>(r.bottom());
+    const auto first = static_cast<short>(top + 1);
+    const auto last = static_cast<short>(bottom - 1);
+    // The dots begin anew on each side.
+    std::vector<x11::Segment> sides = {{left, top, right, top}, {left, bottom, right, bottom}};
+    if (first <= last) {
+        sides.push_back({left, first, left, last});
+        sides.push_back({right, first, right, last});
+    }
+    x11::drawSegments(d->drawable, x11::gcFor(key), sides);
 }
 
 void QPainter::drawPolygon(const QPointArray& points, bool winding, int index, int count)
@@ -112,43 +124,83 @@ void QPainter::drawArc(int x, int y, int w, int h, int startAngle, int angleLeng
                  angleLength * 4);
 }
 
+// The arc and what closes it: lines to the centre or one between the ends.
 void QPainter::drawPie(int x, int y, int w, int h, int startAngle, int angleLength)
 {
+    if (!isActive() || w == 0 || h == 0)
+        return;
     const QRect rect = mirroredRect(x, y, w, h);
     QPointArray outline;
     outline.makeArc(rect.x(), rect.y(), rect.width(), rect.height(), startAngle, angleLength);
-    outline.resize(outline.size() + 1);
-    outline.setPoint(outline.size() - 1, rect.x() + rect.width() / 2, rect.y() + rect.height() / 2);
-    drawPolygon(outline);
+    const QPoint centre(rect.x() + rect.width() / 2, rect.y() + rect.height() / 2);
+    if (!d->mapsRectsToRects()) {
+        outline.resize(outline.size() + 1);
+        outline.setPoint(outline.size() - 1, centre);
+        drawPolygon(outline);
+        return;
+    }
+    d->fillArc(rect, startAngle, angleLength, false);
+    drawArc(rect, startAngle, angleLength);
+    drawLine(centre, outline.point(0));
+    drawLine(centre, outline.point(outline.size() - 1));
 }
 
 void QPainter::drawChord(int x, int y, int w, int h, int startAngle, int angleLength)
 {
+    if (!isActive() || w == 0 || h == 0)
+        return;
     const QRect rect = mirroredRect(x, y, w, h);
     QPointArray outline;
     outline.makeArc(rect.x(), rect.y(), rect.width(), rect.height(), startAngle, angleLength);
-    drawPolygon(outline);
+    if (!d->mapsRectsToRects()) {
+        drawPolygon(outline);
+        return;
+    }
+    d->fillArc(rect, startAngle, angleLength, true);
+    drawArc(rect, startAngle, angleLength);
+    drawLine(outline.point(0), outline.point(outline.size() - 1));
 }
 
 // xRound and yRound tell how round the corners are, from 0 to 99.
 void QPainter::drawRoundRect(int x, int y, int w, int h, int xRound, int yRound)
 {
+    if (!isActive() || w == 0 || h == 0)
+        return;
     if (xRound <= 0 || yRound <= 0) {
         drawRect(x, y, w, h);
         return;
     }
     const QRect r = mirroredRect(x, y, w, h);
-    const int rx = r.width() * std::min(xRound, 99) / 100;
-    const int ry = r.height() * std::min(yRound, 99) / 100;
-    const int right = r.right() - rx + 1;
-    const int bottom = r.bottom() - ry + 1;
+    // The corners' ellipses; even, so that they have a middle.
+    const int rx = (r.width() - 1) * std::min(xRound, 99) / 200 * 2;
+    const int ry = (r.height() - 1) * std::min(yRound, 99) / 200 * 2;
+    const int right = r.right() - rx;
+    const int bottom = r.bottom() - ry;
     const QPoint corners[4] = {QPoint(right, r.top()), r.topLeft(), QPoint(r.left(), bottom),
                                QPoint(right, bottom)};
     QPointArray outline;
     for (int quarter = 0; quarter < 4; ++quarter) {
         QPointArray arc;
-        arc.makeArc(corners[quarter].x(), corners[quarter].y(), rx, ry, quarter * 90 * 16, 90 * 16);
+        arc.makeArc(corners[quarter].x(), corners[quarter].y(), rx + 1, ry + 1, quarter * 90 * 16, 90 * 16);
         outline.putPoints(static_cast<int>(outline.size()), static_cast<int>(arc.size()), arc);
     }
-    drawPolygon(outline);
+    if (!d->mapsRectsToRects()) {
+        drawPolygon(outline);
+        return;
+    }
+    if (d->hasBrush()) {
+        for (int quarter = 0; quarter < 4; ++quarter)
+            d->fillArc(QRect(corners[quarter], QSize(rx + 1, ry + 1)), quarter * 90 * 16, 90 * 16, false);
+        fillRect(r.left() + rx / 2, r.top(), r.width() - rx, ry / 2, d->state.brush);
+        fillRect(r.left() + rx / 2, r.bottom() + 1 - ry / 2, r.width() - rx, ry / 2, d->state.brush);
+        fillRect(r.left(), r.top() + ry / 2, r.width(), r.height() - ry, d->state.brush);
+    }
+    if (!d->hasPen())
+        return;
+    for (int quarter = 0; quarter < 4; ++quarter)
+        drawArc(corners[quarter].x(), corners[quarter].y(), rx + 1, ry + 1, quarter * 90 * 16, 90 * 16);
+    drawLine(r.left() + rx / 2, r.top(), r.right() - rx / 2, r.top());
+    drawLine(r.left() + rx / 2, r.bottom(), r.right() - rx / 2, r.bottom());
+    drawLine(r.left(), r.top() + ry / 2, r.left(), r.bottom() - ry / 2);
+    drawLine(r.right(), r.top() + ry / 2, r.right(), r.bottom() - ry / 2);
 }

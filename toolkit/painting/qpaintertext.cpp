@@ -9,6 +9,8 @@
 #include "x11/pixmap.h"
 #include "x11/textdraw.h"
 
+#include <cmath>
+
 using zeltk::PainterData;
 using zeltk::TextLayout;
 using zeltk::TextMark;
@@ -39,8 +41,8 @@ QRect reachOf(const QFontMetrics& metrics, const TextRun& run)
     return QRect(run.x - side, run.baseline - metrics.ascent() - side / 2, run.width + 2 * side, 2 * side);
 }
 
-// Each letter stands where the widths of those before it, whole pixels all, put it. Turned text starts on a
-// whole pixel, too.
+// Each letter stands where the widths of those before it, whole pixels all, put it. Letters of turned text go
+// to the nearest pixel; a half goes up.
 x11::TextPiece pieceOf(const PainterData* d, const TextRun& run)
 {
     x11::TextPiece piece = {zeltk::faceOf(d->state.font), x11::LetterMatrix(), {}};
@@ -50,12 +52,12 @@ x11::TextPiece pieceOf(const PainterData* d, const TextRun& run)
         piece.matrix.yx = d->matrix.m12();
         piece.matrix.yy = d->matrix.m22();
     }
-    int x = run.x;
-    int y = run.baseline;
-    d->map(&x, &y);
-    int pen = 0;
+    int pen = run.x;
     for (const char16_t c : run.text) {
-        piece.glyphs.push_back({c, x + qRound(piece.matrix.xx * pen), y + qRound(piece.matrix.yx * pen)});
+        double x;
+        double y;
+        d->matrix.map(static_cast<double>(pen), static_cast<double>(run.baseline), &x, &y);
+        piece.glyphs.push_back({c, qRound(x), static_cast<int>(std::ceil(y - 0.5))});
         pen += x11::glyphBox(piece.font, c).advance;
     }
     return piece;
