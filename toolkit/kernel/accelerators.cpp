@@ -6,6 +6,7 @@
 #include <qwidget.h>
 
 #include <algorithm>
+#include <cctype>
 #include <vector>
 
 namespace zeltk
@@ -68,7 +69,10 @@ void removeAccelerators(AcceleratorTarget* target)
 
 bool activateAccelerator(QWidget* window, QKeyEvent* key)
 {
-    const int code = codeOf(key);
+    int code = codeOf(key);
+    // Where Shift is needed to type the sign, it is no part of the shortcut.
+    if (key->key() < 0x80 && key->key() > Qt::Key_Space && !std::isalnum(key->key()))
+        code &= ~Qt::SHIFT;
     for (const Accelerator& accelerator : accelerators()) {
         if (accelerator.key != code || accelerator.widget->topLevelWidget() != window ||
             !accelerator.widget->isVisible() || !accelerator.widget->isEnabled())
