@@ -12,7 +12,6 @@ class QStrList;
 namespace zeltk
 {
 struct ListBoxData;
-struct ListBoxAccess;
 } // namespace zeltk
 
 //! An entry of a list box.
@@ -50,7 +49,6 @@ protected:
 
 private:
     friend class QListBox;
-    friend struct zeltk::ListBoxAccess;
 
     QString txt;
     QListBox* lbox;
@@ -226,7 +224,6 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event);
     void mouseDoubleClickEvent(QMouseEvent* event);
     void mouseMoveEvent(QMouseEvent* event);
-    void contentsContextMenuEvent(QContextMenuEvent* event);
     void keyPressEvent(QKeyEvent* event);
     void focusInEvent(QFocusEvent* event);
     void focusOutEvent(QFocusEvent* event);
@@ -245,7 +242,11 @@ private slots:
     void clearInputString();
 
 private:
-    friend struct zeltk::ListBoxAccess;
+    void tellHighlighted(QListBoxItem* item);
+    void tellSelected(QListBoxItem* item);
+    void paintItem(QPainter* p, QListBoxItem* item, const QRect& r);
+    void lookFor(QKeyEvent* event);
+
     zeltk::ListBoxData* d;
 
     QListBox(const QListBox&);

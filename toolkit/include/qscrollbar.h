@@ -83,7 +83,7 @@ private slots:
     void doAutoRepeat();
 
 private:
-    void init();
+    void init(Orientation orientation);
     void positionSliderFromValue();
     int rangeValueToSliderPos(int value) const;
     int sliderPosToRangeValue(int pos) const;

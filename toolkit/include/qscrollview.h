@@ -65,16 +65,12 @@ protected:
     virtual void contentsMouseReleaseEvent(QMouseEvent* event);
     virtual void contentsMouseDoubleClickEvent(QMouseEvent* event);
     virtual void contentsMouseMoveEvent(QMouseEvent* event);
-    virtual void contentsWheelEvent(QWheelEvent* event);
-    virtual void contentsContextMenuEvent(QContextMenuEvent* event);
     virtual void viewportPaintEvent(QPaintEvent* event);
     virtual void viewportResizeEvent(QResizeEvent* event);
 
     bool eventFilter(QObject* watched, QEvent* event);
     void resizeEvent(QResizeEvent* event);
     void wheelEvent(QWheelEvent* event);
-    bool focusNextPrevChild(bool next);
-    void frameChanged();
 
 private slots:
     void hslide(int value);
@@ -82,6 +78,7 @@ private slots:
 
 private:
     void moveContents(int x, int y);
+    bool mouseToContents(QMouseEvent* event);
 
     zeltk::ScrollViewData* d;
 

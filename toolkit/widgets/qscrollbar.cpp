@@ -17,26 +17,29 @@ namespace
 
 constexpr int grooveStart = 2 + motif::scrollBarArrow;
 
+QSizePolicy policyFor(Qt::Orientation orientation)
+{
+    return orientation == Qt::Horizontal ? QSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed)
+                                         : QSizePolicy(QSizePolicy::Fixed, QSizePolicy::Minimum);
+}
+
 } // namespace
 
 QScrollBar::QScrollBar(QWidget* parent, const char* name) : QWidget(parent, name)
 {
-    init();
-    setOrientation(Vertical);
+    init(Vertical);
 }
 
 QScrollBar::QScrollBar(Orientation orientation, QWidget* parent, const char* name) : QWidget(parent, name)
 {
-    init();
-    setOrientation(orientation);
+    init(orientation);
 }
 
 QScrollBar::QScrollBar(int minValue, int maxValue, int lineStep, int pageStep, int value,
                        Orientation orientation, QWidget* parent, const char* name)
     : QWidget(parent, name), QRangeControl(minValue, maxValue, lineStep, pageStep, value)
 {
-    init();
-    setOrientation(orientation);
+    init(orientation);
 }
 
 QScrollBar::~QScrollBar()
@@ -44,19 +47,20 @@ QScrollBar::~QScrollBar()
     delete d;
 }
 
-void QScrollBar::init()
+void QScrollBar::init(Orientation orientation)
 {
     d = new zeltk::ScrollBarData;
+    d->orientation = orientation;
     zeltk::ensureStyled();
     setFocusPolicy(NoFocus);
     setBackgroundMode(PaletteMid);
+    QWidget::setSizePolicy(policyFor(orientation));
 }
 
 void QScrollBar::setOrientation(Orientation orientation)
 {
     d->orientation = orientation;
-    QWidget::setSizePolicy(orientation == Horizontal ? QSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed)
-                                                     : QSizePolicy(QSizePolicy::Fixed, QSizePolicy::Minimum));
+    QWidget::setSizePolicy(policyFor(orientation));
     positionSliderFromValue();
     update();
     updateGeometry();
