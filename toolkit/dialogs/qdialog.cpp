@@ -1,6 +1,7 @@
 // QDialog.
 #include <qdialog.h>
 
+#include "kernel/applicationprivate.h"
 #include "widgets/defaultbutton.h"
 
 #include <qapplication.h>
@@ -145,11 +146,11 @@ int QDialog::exec()
 
 void QDialog::done(int result)
 {
+    const bool wasMainWidget = qApp->mainWidget() == this;
     hide();
     setResult(result);
-    if (qApp->mainWidget() == this)
-        qApp->quit();
-    else if (testWFlags(WDestructiveClose))
+    zeltk::windowClosed(this, wasMainWidget);
+    if (!wasMainWidget && testWFlags(WDestructiveClose))
         deleteLater();
 }
 
