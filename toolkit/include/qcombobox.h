@@ -4,6 +4,7 @@
 
 #include <qwidget.h>
 
+class QKeyEvent;
 class QLineEdit;
 class QListBox;
 class QPixmap;
@@ -123,6 +124,16 @@ protected:
     void wheelEvent(QWheelEvent* event);
 
 private:
+    void init();
+    void inserted(int index);
+    int entryForLetter(QKeyEvent* event);
+    void chooseTyped(int index, const QString& typed);
+    void complete();
+    bool editEvent(QEvent* event);
+    bool listEvent(QObject* watched, QEvent* event);
+    bool listKey(QKeyEvent* event);
+    bool listMouseInside(QMouseEvent* event);
+    bool listMouseOutside(QMouseEvent* event);
     void setUpListBox();
     void setUpLineEdit();
     void popDownListBox();

@@ -30,6 +30,11 @@ struct ScrollBarLook {
 // On the background colour.
 void drawScrollBar(QPainter* p, const QRect& r, const QColorGroup& g, const ScrollBarLook& look);
 
+// A raised box with an arrow; the field is where the text stands.
+QRect comboBoxField(const QRect& r);
+QRect comboBoxFocusFrame(const QRect& r);
+void drawComboBox(QPainter* p, const QRect& r, const QColorGroup& g, bool editable);
+
 } // namespace motif
 } // namespace zeltk
 
