@@ -76,6 +76,7 @@ public:
     StyleHint styleHint() const;
     StyleStrategy styleStrategy() const;
     void setStyleHint(StyleHint hint, StyleStrategy strategy = PreferDefault);
+    void setStyleStrategy(StyleStrategy strategy);
     bool rawMode() const;
     void setRawMode(bool enable);
     bool exactMatch() const;
@@ -92,6 +93,9 @@ public:
     static QString substitute(const QString& family);
     static QStringList substitutes(const QString& family);
     static void insertSubstitution(const QString& family, const QString& substitute);
+    static void insertSubstitutions(const QString& family, const QStringList& substitutes);
+    //! The families that have stand-ins, in lower case.
+    static QStringList substitutions();
     static void removeSubstitution(const QString& family);
 
     QString defaultFamily() const;

@@ -38,7 +38,7 @@ QFont& applicationFont()
     return *font;
 }
 
-std::map<QString, QStringList>& substitutions()
+std::map<QString, QStringList>& standIns()
 {
     static auto* const all = new std::map<QString, QStringList>;
     return *all;
@@ -318,6 +318,11 @@ void QFont::setStyleHint(StyleHint hint, StyleStrategy strategy)
     d->set |= FontData::Hint;
 }
 
+void QFont::setStyleStrategy(StyleStrategy strategy)
+{
+    setStyleHint(d->hint, strategy);
+}
+
 bool QFont::rawMode() const
 {
     return d->raw;
@@ -386,20 +391,34 @@ QString QFont::substitute(const QString& family)
 
 QStringList QFont::substitutes(const QString& family)
 {
-    const auto found = substitutions().find(family.lower());
-    return found == substitutions().end() ? QStringList() : found->second;
+    const auto found = standIns().find(family.lower());
+    return found == standIns().end() ? QStringList() : found->second;
 }
 
 void QFont::insertSubstitution(const QString& family, const QString& substitute)
 {
-    QStringList& list = substitutions()[family.lower()];
+    QStringList& list = standIns()[family.lower()];
     if (!list.contains(substitute))
         list.append(substitute);
 }
 
+void QFont::insertSubstitutions(const QString& family, const QStringList& substitutes)
+{
+    for (QStringList::ConstIterator it = substitutes.begin(); it != substitutes.end(); ++it)
+        insertSubstitution(family, *it);
+}
+
+QStringList QFont::substitutions()
+{
+    QStringList families;
+    for (const auto& entry : standIns())
+        families.append(entry.first);
+    return families;
+}
+
 void QFont::removeSubstitution(const QString& family)
 {
-    substitutions().erase(family.lower());
+    standIns().erase(family.lower());
 }
 
 QString QFont::defaultFamily() const
