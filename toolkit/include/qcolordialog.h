@@ -24,6 +24,7 @@ public:
     static int customCount();
     static QRgb customColor(int index);
     static void setCustomColor(int index, QRgb color);
+    static void setStandardColor(int index, QRgb color);
 
 private:
     QColorDialog(QWidget* parent = 0, const char* name = 0, bool modal = false);

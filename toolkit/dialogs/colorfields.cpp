@@ -1,0 +1,179 @@
+// A colour as numbers to type.
+#include "dialogs/colorfields.h"
+
+#include <qcolordialog.h>
+#include <qfontmetrics.h>
+#include <qlabel.h>
+#include <qlineedit.h>
+#include <qvalidator.h>
+
+#include <algorithm>
+
+namespace zeltk
+{
+
+namespace
+{
+
+constexpr int margin = 6;
+constexpr int distance = 6;
+constexpr int sampleWidth = 60;
+
+const struct {
+    const char* name;
+    const char* labelName;
+    const char* text;
+    int maximum;
+} descriptions[] = {
+    {"qt_hue_edit", "qt_hue_lbl", "Hu&e:", 359},
+    {"qt_sat_edit", "qt_sat_lbl", "&Sat:", 255},
+    {"qt_val_edit", "qt_val_lbl", "&Val:", 255},
+    {"qt_red_edit", "qt_red_lbl", "&Red:", 255},
+    {"qt_grn_edit", "qt_grn_lbl", "&Green:", 255},
+    {"qt_blue_edit", "qt_blue_lbl", "Bl&ue:", 255},
+    {"qt_aplha_edit", "qt_alpha_lbl", "A&lpha channel:", 255},
+};
+
+} // namespace
+
+ColorFields::ColorFields(QWidget* parent) : QWidget(parent, "qt_colorshower")
+{
+    sample = new QFrame(this, "qt_colorshow_lbl");
+    sample->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+    for (int i = 0; i < FieldCount; ++i) {
+        QLineEdit* edit = new QLineEdit(this, descriptions[i].name);
+        edit->setMaxLength(3);
+        edit->setValidator(new QIntValidator(0, descriptions[i].maximum, edit));
+        if (i < Alpha)
+            connect(edit, SIGNAL(textChanged(const QString&)), this,
+                    i < Red ? SLOT(hsvTyped()) : SLOT(rgbTyped()));
+        QLabel* label =
+            new QLabel(edit, QColorDialog::tr(descriptions[i].text), this, descriptions[i].labelName);
+        label->setAlignment(AlignRight | AlignVCenter);
+        edits[i] = edit;
+        labels[i] = label;
+    }
+    edits[Alpha]->hide();
+    labels[Alpha]->hide();
+    place();
+}
+
+// Two columns, and the alpha channel below them; its distance from them is kept even while it is hidden.
+void ColorFields::place()
+{
+    const int height = edits[Hue]->sizeHint().height();
+    const int editWidth = fontMetrics().width("999") + 4;
+    const int rows = withAlpha ? 4 : 3;
+    sample->setGeometry(margin, margin, sampleWidth, rows * height + 3 * distance);
+    int x = margin + sampleWidth + distance;
+    const int firstLabel = x;
+    for (int first : {Hue, Red}) {
+        int labelWidth = 0;
+        for (int i = first; i < first + 3; ++i)
+            labelWidth = std::max(labelWidth, labels[i]->sizeHint().width());
+        for (int row = 0; row < 3; ++row) {
+            const int y = margin + row * (height + distance);
+            labels[first + row]->setGeometry(x, y, labelWidth, height);
+            edits[first + row]->setGeometry(x + labelWidth + distance, y, editWidth, height);
+        }
+        x += labelWidth + distance + editWidth + distance;
+    }
+    const int right = x - distance;
+    size = QSize(right + margin, sample->height() + 2 * margin);
+    if (!withAlpha)
+        return;
+    const int y = margin + 3 * (height + distance);
+    labels[Alpha]->setGeometry(firstLabel, y, right - editWidth - distance - firstLabel, height);
+    edits[Alpha]->setGeometry(right - editWidth, y, editWidth, height);
+}
+
+QSize ColorFields::sizeHint() const
+{
+    return size;
+}
+
+int ColorFields::number(Field field) const
+{
+    return edits[field]->text().toInt();
+}
+
+void ColorFields::write(Field field, int number)
+{
+    writing = true;
+    edits[field]->setText(QString::number(number));
+    writing = false;
+}
+
+void ColorFields::writeHsv()
+{
+    write(Hue, h);
+    write(Saturation, s);
+    write(Value, v);
+}
+
+void ColorFields::writeRgb()
+{
+    write(Red, current.red());
+    write(Green, current.green());
+    write(Blue, current.blue());
+    sample->setPaletteBackgroundColor(current);
+}
+
+void ColorFields::setColor(const QColor& color)
+{
+    current = color;
+    current.hsv(&h, &s, &v);
+    writeHsv();
+    writeRgb();
+}
+
+void ColorFields::setHsv(int hue, int saturation, int value)
+{
+    h = hue;
+    s = saturation;
+    v = value;
+    current.setHsv(h, s, v);
+    writeHsv();
+    writeRgb();
+}
+
+void ColorFields::hsvTyped()
+{
+    if (writing)
+        return;
+    h = number(Hue);
+    s = number(Saturation);
+    v = number(Value);
+    current.setHsv(h, s, v);
+    writeRgb();
+    if (onTyped)
+        onTyped();
+}
+
+void ColorFields::rgbTyped()
+{
+    if (writing)
+        return;
+    current = QColor(number(Red), number(Green), number(Blue));
+    current.hsv(&h, &s, &v);
+    writeHsv();
+    sample->setPaletteBackgroundColor(current);
+    if (onTyped)
+        onTyped();
+}
+
+int ColorFields::alpha() const
+{
+    return number(Alpha);
+}
+
+void ColorFields::showAlpha(int alpha)
+{
+    withAlpha = true;
+    write(Alpha, alpha);
+    labels[Alpha]->show();
+    edits[Alpha]->show();
+    place();
+}
+
+} // namespace zeltk

@@ -1,0 +1,56 @@
+// The inside of the colour dialog.
+#ifndef ZELTK_COLORPANEL_H
+#define ZELTK_COLORPANEL_H
+
+#include "dialogs/colorfields.h"
+#include "dialogs/colorgrid.h"
+#include "dialogs/colorpickers.h"
+
+#include <qcolordialog.h>
+
+class QLabel;
+class QPushButton;
+
+namespace zeltk
+{
+
+std::vector<QRgb>& standardColors();
+std::vector<QRgb>& customColors();
+
+class ColorPanel : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit ColorPanel(QColorDialog* dialog);
+
+    QColor color() const { return fields->color(); }
+    void setColor(const QColor& color);
+    // Marks the well of that colour; false if there is none.
+    bool select(const QColor& color);
+    int alpha() const;
+    void showAlpha(int alpha);
+    QSize neededSize() const { return needed; }
+
+private slots:
+    void addCustom();
+
+private:
+    void showColor();
+    void place();
+
+    QColorDialog* dialog;
+    ColorGrid *standard, *custom;
+    QLabel *standardLabel, *customLabel;
+    QPushButton *define, *ok, *cancel, *add;
+    HuePicker* huePicker;
+    ValuePicker* valuePicker;
+    ColorFields* fields;
+    QSize needed;
+    int nextCustom = 0;
+    bool withAlpha = false;
+};
+
+} // namespace zeltk
+
+#endif

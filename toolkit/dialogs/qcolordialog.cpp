@@ -1,0 +1,86 @@
+// QColorDialog.
+#include "dialogs/colorpanel.h"
+
+QColorDialog::QColorDialog(QWidget* parent, const char* name, bool modal)
+    : QDialog(parent, name, modal), d(new zeltk::ColorPanel(this))
+{
+    setCaption(tr("Select color"));
+    setMinimumSize(d->neededSize());
+    resize(d->neededSize());
+}
+
+QColorDialog::~QColorDialog() {}
+
+QColor QColorDialog::getColor(const QColor& initial, QWidget* parent, const char* name)
+{
+    QColorDialog dialog(parent, name, true);
+    const QColor start = initial.isValid() ? initial : QColor(Qt::white);
+    dialog.setColor(start);
+    dialog.selectColor(start);
+    return dialog.exec() == Accepted ? dialog.color() : QColor();
+}
+
+QRgb QColorDialog::getRgba(QRgb initial, bool* ok, QWidget* parent, const char* name)
+{
+    QColorDialog dialog(parent, name, true);
+    dialog.setColor(QColor(initial & 0xffffff));
+    dialog.selectColor(QColor(initial & 0xffffff));
+    dialog.setSelectedAlpha(qAlpha(initial));
+    const bool accepted = dialog.exec() == Accepted;
+    if (ok)
+        *ok = accepted;
+    if (!accepted)
+        return initial;
+    const QColor color = dialog.color();
+    return qRgba(color.red(), color.green(), color.blue(), dialog.selectedAlpha());
+}
+
+void QColorDialog::setColor(const QColor& color)
+{
+    d->setColor(color);
+}
+
+QColor QColorDialog::color() const
+{
+    return d->color();
+}
+
+bool QColorDialog::selectColor(const QColor& color)
+{
+    return d->select(color);
+}
+
+void QColorDialog::setSelectedAlpha(int alpha)
+{
+    d->showAlpha(alpha);
+    setMinimumSize(d->neededSize());
+    resize(d->neededSize());
+}
+
+int QColorDialog::selectedAlpha() const
+{
+    return d->alpha();
+}
+
+int QColorDialog::customCount()
+{
+    return static_cast<int>(zeltk::customColors().size());
+}
+
+QRgb QColorDialog::customColor(int index)
+{
+    return index >= 0 && index < customCount() ? zeltk::customColors()[static_cast<size_t>(index)]
+                                               : qRgb(255, 255, 255);
+}
+
+void QColorDialog::setCustomColor(int index, QRgb color)
+{
+    if (index >= 0 && index < customCount())
+        zeltk::customColors()[static_cast<size_t>(index)] = color | 0xff000000;
+}
+
+void QColorDialog::setStandardColor(int index, QRgb color)
+{
+    if (index >= 0 && index < static_cast<int>(zeltk::standardColors().size()))
+        zeltk::standardColors()[static_cast<size_t>(index)] = color | 0xff000000;
+}
