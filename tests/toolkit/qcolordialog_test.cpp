@@ -1,0 +1,241 @@
+// Choosing a colour, as a user does it in the standard dialog.
+#include "pixels.h"
+#include "printers.h"
+#include "waiting.h"
+#include "xinput.h"
+
+#include <gtest/gtest.h>
+#include <qapplication.h>
+#include <qcolordialog.h>
+#include <qlabel.h>
+#include <qlineedit.h>
+#include <qobjectlist.h>
+#include <qpushbutton.h>
+#include <qtimer.h>
+
+#include <X11/keysym.h>
+
+#include <functional>
+#include <string>
+
+namespace
+{
+
+const QColor start(200, 100, 50);
+
+// The hands of the user while getColor() runs. They leave by Escape if the dialog is still there at the end.
+class Hands : public QObject
+{
+public:
+    explicit Hands(const std::function<void(QWidget*)>& doing) : work(doing) { startTimer(20); }
+    bool done = false;
+
+protected:
+    void timerEvent(QTimerEvent*) override
+    {
+        QWidget* dialog = QApplication::activeModalWidget();
+        if (!dialog || done)
+            return;
+        done = true;
+        killTimers();
+        waitFor([dialog] { return xinput::isViewable(dialog->winId()); });
+        dialog->setActiveWindow();
+        waitFor([dialog] { return dialog->isActiveWindow(); });
+        settle();
+        work(dialog);
+        settle();
+        if (QApplication::activeModalWidget()) {
+            ADD_FAILURE() << "the dialog stayed open";
+            xinput::typeKey(XK_Escape);
+        }
+    }
+
+private:
+    std::function<void(QWidget*)> work;
+};
+
+QColor choose(const std::function<void(QWidget*)>& work, const QColor& initial = start,
+              QWidget* parent = nullptr, const char* name = nullptr)
+{
+    Hands hands(work);
+    return QColorDialog::getColor(initial, parent, name);
+}
+
+void press(QWidget* dialog, const char* text)
+{
+    QObjectList* buttons = dialog->queryList("QPushButton");
+    for (QObject* each = buttons->first(); each; each = buttons->next()) {
+        QPushButton* button = static_cast<QPushButton*>(each);
+        if (button->text() == text)
+            xinput::click(button, 10, 10);
+    }
+    delete buttons;
+}
+
+// The numbers in the fields: hue, saturation, value, red, green, blue.
+std::string fields(QWidget* dialog)
+{
+    std::string all;
+    QObjectList* edits = dialog->queryList("QLineEdit");
+    for (QObject* each = edits->first(); each; each = edits->next()) {
+        const QLineEdit* edit = static_cast<QLineEdit*>(each);
+        if (edit->isVisible())
+            all += (all.empty() ? "" : " ") + std::string(edit->text().latin1());
+    }
+    delete edits;
+    return all;
+}
+
+void type(QWidget* dialog, const char* field, const char* text)
+{
+    QLineEdit* edit = static_cast<QLineEdit*>(dialog->child(field, "QLineEdit"));
+    ASSERT_NE(nullptr, edit) << field;
+    edit->setFocus();
+    edit->selectAll();
+    xinput::typeText(text);
+    settle();
+}
+
+QWidget* colorGrid(QWidget* dialog)
+{
+    return dialog->childAt(14, 40);
+}
+
+} // namespace
+
+TEST(ColorDialog, IsModalAndNamedAsAsked)
+{
+    QWidget parent(nullptr, "parent");
+    choose(
+        [&parent](QWidget* dialog) {
+            EXPECT_EQ("Select color", dialog->caption());
+            EXPECT_STREQ("Given name", dialog->name());
+            EXPECT_EQ(&parent, dialog->parentWidget());
+            EXPECT_TRUE(dialog->isModal());
+            EXPECT_EQ("20 191 200 200 100 50", fields(dialog));
+            press(dialog, "Cancel");
+        },
+        start, &parent, "Given name");
+}
+
+TEST(ColorDialog, OkTakesTheColourAndCancelAndEscapeDoNot)
+{
+    EXPECT_EQ(start, choose([](QWidget* dialog) { press(dialog, "OK"); }));
+    EXPECT_FALSE(choose([](QWidget* dialog) { press(dialog, "Cancel"); }).isValid());
+    EXPECT_FALSE(choose([](QWidget*) { xinput::typeKey(XK_Escape); }).isValid());
+}
+
+TEST(ColorDialog, NumbersActWhileTheyAreTyped)
+{
+    const QColor chosen = choose([](QWidget* dialog) {
+        type(dialog, "qt_red_edit", "17");
+        EXPECT_EQ("144 212 100 17 100 50", fields(dialog));
+        type(dialog, "qt_grn_edit", "34");
+        EXPECT_EQ("209 168 50 17 34 50", fields(dialog));
+        type(dialog, "qt_blue_edit", "51");
+        EXPECT_EQ("210 170 51 17 34 51", fields(dialog));
+        const QWidget* sample = static_cast<QWidget*>(dialog->child("qt_colorshow_lbl"));
+        EXPECT_EQ(QColor(17, 34, 51), sample->paletteBackgroundColor());
+        xinput::typeKey(XK_Return);
+    });
+    EXPECT_EQ(QColor(17, 34, 51), chosen);
+}
+
+TEST(ColorDialog, HueSaturationAndValueMayBeTypedToo)
+{
+    const QColor chosen = choose([](QWidget* dialog) {
+        type(dialog, "qt_hue_edit", "240");
+        EXPECT_EQ("240 191 200 50 50 200", fields(dialog));
+        type(dialog, "qt_sat_edit", "255");
+        type(dialog, "qt_val_edit", "100");
+        EXPECT_EQ("240 255 100 0 0 100", fields(dialog));
+        type(dialog, "qt_red_edit", "999");
+        EXPECT_EQ("299 255 100 99 0 100", fields(dialog)) << "no number above 255";
+        press(dialog, "OK");
+    });
+    EXPECT_EQ(QColor(99, 0, 100), chosen);
+}
+
+TEST(ColorDialog, WellsAreClicked)
+{
+    const QColor chosen = choose([](QWidget* dialog) {
+        QWidget* grid = colorGrid(dialog);
+        xinput::click(grid, 14, 12);
+        settle();
+        EXPECT_EQ("-1 0 0 0 0 0", fields(dialog));
+        xinput::click(grid, 70, 36);
+        settle();
+        EXPECT_EQ("200 255 127 0 85 127", fields(dialog));
+        press(dialog, "OK");
+    });
+    EXPECT_EQ(QColor(0, 85, 127), chosen);
+}
+
+TEST(ColorDialog, WellsAreReachedWithTheKeyboard)
+{
+    const QColor chosen = choose([](QWidget* dialog) {
+        EXPECT_TRUE(colorGrid(dialog)->hasFocus());
+        xinput::typeKey(XK_Right);
+        xinput::typeKey(XK_Down);
+        xinput::typeKey(XK_Down);
+        xinput::typeKey(XK_space);
+        settle();
+        xinput::typeKey(XK_Return);
+    });
+    EXPECT_EQ(QColor(170, 0, 255), chosen);
+}
+
+TEST(ColorDialog, ThePickersChangeWhatTheyShow)
+{
+    const QColor chosen = choose([](QWidget* dialog) {
+        QWidget* picker = static_cast<QWidget*>(dialog->child("qt_colorpicker"));
+        QWidget* values = static_cast<QWidget*>(dialog->child("qt_luminance_picker"));
+        ASSERT_TRUE(picker && values);
+        xinput::click(picker, 1, 1);
+        settle();
+        EXPECT_EQ("0 255 200 200 0 0", fields(dialog)) << "the brightest red is in the corner";
+        xinput::click(values, 5, 4);
+        settle();
+        EXPECT_EQ("0 255 255 255 0 0", fields(dialog));
+        EXPECT_EQ(0xfe0000u, Pixels::of(values).at(5, 5));
+        xinput::moveTo(values, 5, 4);
+        xinput::pressButton();
+        xinput::moveTo(values, 5, 300);
+        settle();
+        xinput::releaseButton();
+        settle();
+        EXPECT_EQ("0 255 0 0 0 0", fields(dialog)) << "dragged to the lower end";
+        press(dialog, "OK");
+    });
+    EXPECT_EQ(Qt::black, chosen);
+}
+
+TEST(ColorDialog, KeepsCustomColours)
+{
+    ASSERT_EQ(16, QColorDialog::customCount());
+    EXPECT_EQ(qRgb(255, 255, 255), QColorDialog::customColor(0));
+    choose([](QWidget* dialog) {
+        press(dialog, "&Add to Custom Colors");
+        settle();
+        press(dialog, "Cancel");
+    });
+    EXPECT_EQ(start.rgb(), QColorDialog::customColor(0));
+    QColorDialog::setCustomColor(0, qRgb(255, 255, 255));
+    QColorDialog::setCustomColor(3, qRgb(1, 2, 3));
+    EXPECT_EQ(qRgb(1, 2, 3), QColorDialog::customColor(3));
+}
+
+TEST(ColorDialog, AsksForAnAlphaChannelIfWanted)
+{
+    Hands hands([](QWidget* dialog) {
+        EXPECT_EQ("210 170 30 10 20 30 128", fields(dialog));
+        type(dialog, "qt_aplha_edit", "64");
+        press(dialog, "OK");
+    });
+    bool ok = false;
+    EXPECT_EQ(qRgba(10, 20, 30, 64), QColorDialog::getRgba(qRgba(10, 20, 30, 128), &ok));
+    EXPECT_TRUE(ok);
+    Hands escaping([](QWidget*) { xinput::typeKey(XK_Escape); });
+    EXPECT_EQ(qRgba(10, 20, 30, 128), QColorDialog::getRgba(qRgba(10, 20, 30, 128), &ok));
+    EXPECT_FALSE(ok);
+}
