@@ -11,7 +11,7 @@
 QListBox::QListBox(QWidget* parent, const char* name, WFlags f) : QScrollView(parent, name, f)
 {
     d = new zeltk::ListBoxData;
-    setFocusPolicy(StrongFocus);
+    setFocusPolicy(WheelFocus);
     viewport()->setBackgroundMode(PaletteBase);
     viewport()->setFocusProxy(this);
     setBackgroundMode(PaletteBackground, PaletteBase);
