@@ -7,9 +7,16 @@ class GalleryWindow;
 typedef void (*AddRow)(GalleryWindow& gallery);
 
 void addActiveLabelRow(GalleryWindow& gallery);
+void addActiveLabel2Row(GalleryWindow& gallery);
+void addLabelRow(GalleryWindow& gallery);
+void addColorButtonRow(GalleryWindow& gallery);
+void addPushButtonRow(GalleryWindow& gallery);
+void addFrameRow(GalleryWindow& gallery);
+void addGraphRow(GalleryWindow& gallery);
 
 const AddRow galleryRows[] = {
-    addActiveLabelRow,
+    addActiveLabelRow, addActiveLabel2Row, addLabelRow, addColorButtonRow,
+    addPushButtonRow,  addFrameRow,        addGraphRow,
 };
 
 #endif

@@ -13,7 +13,7 @@
 namespace
 {
 
-const int stepMilliseconds = 120;
+const int stepMilliseconds = 60;
 
 // "Upside down" becomes "upside-down".
 std::string fileName(const char* objectName)
