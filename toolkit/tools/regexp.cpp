@@ -3,6 +3,10 @@
 
 #include "tools/unicode.h"
 
+// With sanitizers GCC takes members of the library's automaton for uninitialized.
+#if defined(__GNUC__) && !defined(__clang__)
+#pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
+#endif
 #include <regex>
 
 namespace zeltk
