@@ -1,5 +1,7 @@
 #include "gallerywindow.h"
 
+#include <qapplication.h>
+#include <qdesktopwidget.h>
 #include <qfont.h>
 #include <qlabel.h>
 
@@ -58,4 +60,6 @@ void GalleryWindow::finish()
 {
     m_status->setGeometry(margin, m_bottom, rowWidth, statusHeight);
     setFixedSize(rowWidth + 2 * margin, m_bottom + statusHeight + margin);
+    const QRect screen = QApplication::desktop()->geometry();
+    move((screen.width() - width()) / 2, std::max((screen.height() - height()) / 2, 0));
 }
