@@ -20,19 +20,26 @@ QEvent** EventQueue::find(QObject* receiver, int type)
     return place == m_next ? nullptr : &m_events[place].event;
 }
 
+EventQueue::Place EventQueue::firstOf(Place from, QObject* receiver, int type) const
+{
+    const auto it = m_byReceiver.lower_bound(std::make_tuple(receiver, type, from));
+    const bool found = it != m_byReceiver.end() && std::get<0>(*it) == receiver && std::get<1>(*it) == type;
+    return found ? std::get<2>(*it) : m_next;
+}
+
 EventQueue::Place EventQueue::first(Place from, QObject* receiver, int type) const
 {
-    if (receiver && type) {
-        const auto it = m_byReceiver.lower_bound(std::make_tuple(receiver, type, from));
-        const bool found =
-            it != m_byReceiver.end() && std::get<0>(*it) == receiver && std::get<1>(*it) == type;
-        return found ? std::get<2>(*it) : m_next;
-    }
+    if (receiver && type)
+        return firstOf(from, receiver, type);
     if (receiver) {
+        // There are few types; each is asked for its first.
         Place earliest = m_next;
-        for (Place place : placesOf(receiver))
-            if (place >= from)
-                earliest = std::min(earliest, place);
+        auto it = m_byReceiver.lower_bound(std::make_tuple(receiver, 0, Place(0)));
+        while (it != m_byReceiver.end() && std::get<0>(*it) == receiver) {
+            const int waiting = std::get<1>(*it);
+            earliest = std::min(earliest, firstOf(from, receiver, waiting));
+            it = m_byReceiver.lower_bound(std::make_tuple(receiver, waiting + 1, Place(0)));
+        }
         return earliest;
     }
     if (type) {

@@ -39,6 +39,8 @@ public:
     std::vector<Place> placesOf(QObject* receiver) const;
 
 private:
+    Place firstOf(Place from, QObject* receiver, int type) const;
+
     std::map<Place, PostedEvent> m_events;
     std::set<std::tuple<QObject*, int, Place>> m_byReceiver;
     std::set<std::pair<int, Place>> m_byType;

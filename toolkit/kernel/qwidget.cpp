@@ -154,8 +154,8 @@ void unmakeWindow(QWidget* widget)
 QWidget::QWidget(QWidget* parent, const char* name, WFlags f)
     : QObject(parent, name), QPaintDevice(WidgetDevice), w(nullptr)
 {
-    if (!qApp)
-        qFatal("QWidget: a QApplication is needed before any widget");
+    if (!qApp || qApp->type() == QApplication::Tty)
+        qFatal("QWidget: a QApplication with windows is needed before any widget");
     w = new WidgetData;
     zeltk::dataOf(static_cast<QObject*>(this))->isWidget = true;
     w->flags = completed(f, parent);
@@ -176,9 +176,10 @@ QWidget::~QWidget()
     if (isVisible() && !isDesktop())
         hide();
     zeltk::widgetDestroyed(this);
-    for (QWidget* other : widgets())
-        if (zeltk::dataOf(other)->focusProxy == this)
-            zeltk::WidgetAccess::focusProxyDestroyed(other);
+    if (w->isFocusProxy)
+        for (QWidget* other : widgets())
+            if (zeltk::dataOf(other)->focusProxy == this)
+                zeltk::WidgetAccess::focusProxyDestroyed(other);
     widgets().erase(std::find(widgets().begin(), widgets().end(), this));
     zeltk::unmakeWindow(this);
     zeltk::deleteChildren(this); // while there is still a widget around them

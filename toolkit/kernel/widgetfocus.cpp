@@ -220,6 +220,8 @@ QWidget* QWidget::focusProxy() const
 void QWidget::setFocusProxy(QWidget* proxy)
 {
     w->focusProxy = proxy;
+    if (proxy)
+        zeltk::dataOf(proxy)->isFocusProxy = true;
     if (proxy && w->focusPolicy == NoFocus)
         setFocusPolicy(proxy->focusPolicy());
 }
