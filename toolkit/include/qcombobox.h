@@ -57,6 +57,10 @@ public:
 
     QSize sizeHint() const;
 
+    bool autoResize() const;
+    //! Whether it takes the size of its text whenever that changes.
+    virtual void setAutoResize(bool enable);
+
     //! How many entries the open list shows without scrolling.
     virtual void setSizeLimit(int limit);
     int sizeLimit() const;

@@ -112,7 +112,6 @@ protected:
     void keyPressEvent(QKeyEvent* event);
     void focusInEvent(QFocusEvent* event);
     void focusOutEvent(QFocusEvent* event);
-    void resizeEvent(QResizeEvent* event);
     void drawContents(QPainter* p);
     void windowActivationChange(bool oldActive);
 

@@ -2,6 +2,7 @@
 #ifndef ZELTK_MOTIFINPUTS_H
 #define ZELTK_MOTIFINPUTS_H
 
+#include <qcolor.h>
 #include <qnamespace.h>
 #include <qrect.h>
 
@@ -24,6 +25,9 @@ void drawArrow(QPainter* p, int x, int y, int size, Arrow arrow, bool down, cons
 struct ScrollBarLook {
     Qt::Orientation orientation;
     QRect slider;
+    QRect groove; // where the slider moves
+    QColor background;
+    bool focus;
     bool decreasing; // the arrow that is held down
     bool increasing;
 };

@@ -1,6 +1,8 @@
 // How scroll bars look.
 #include "style/motifinputs.h"
 
+#include "style/motif.h"
+
 #include <qdrawutil.h>
 #include <qpainter.h>
 #include <qpalette.h>
@@ -76,8 +78,12 @@ void drawScrollBar(QPainter* p, const QRect& r, const QColorGroup& g, const Scro
         drawArrow(p, r.x() + 2, r.y() + 2, size, Arrow::Up, look.decreasing, g);
         drawArrow(p, r.x() + 2, r.y() + far, size, Arrow::Down, look.increasing, g);
     }
+    p->fillRect(look.groove, QBrush(look.background));
     const QBrush fill(g.button());
     qDrawShadePanel(p, look.slider, g, false, 2, &fill);
+    const QRect& s = look.slider;
+    if (look.focus)
+        drawFocusFrame(p, QRect(s.x() + 2, s.y() + 2, s.width() - 5, s.height() - 5), g);
 }
 
 } // namespace motif

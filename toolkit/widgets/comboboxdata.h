@@ -21,6 +21,7 @@ struct ComboBoxData {
     QComboBox::Policy policy = QComboBox::AtBottom;
     bool completes = false;
     bool duplicates = true;
+    bool autoResize = false;
 
     bool open = false;
     bool visited = false; // the pointer was in the open list with the button held down

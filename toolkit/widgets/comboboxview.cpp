@@ -49,7 +49,7 @@ void QComboBox::paintEvent(QPaintEvent*)
     p.setClipRect(field);
     p.setPen(isEnabled() ? g.buttonText() : g.foreground());
     const QPixmap* pixmap = d->list->pixmap(d->current);
-    int x = field.x() + 3;
+    int x = field.x() + 2;
     if (pixmap) {
         p.drawPixmap(x, field.y() + (field.height() - pixmap->height()) / 2, *pixmap);
         x += pixmap->width() + 3;

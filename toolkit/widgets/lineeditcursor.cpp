@@ -98,7 +98,6 @@ void QLineEdit::setSelection(int start, int length)
         const int end = QMIN(start + QMAX(length, 0), d->buffer.length());
         d->buffer.select(start, end, end);
     }
-    d->keepCursorInSight(this);
     repaint(false);
 }
 

@@ -35,7 +35,7 @@ struct LineEditData {
     void finish(QLineEdit* edit, const EditBuffer& before);
     QString shown() const;
     QRect lineRect(const QLineEdit* edit) const;
-    // Moves the text so that the cursor can be seen.
+    // Moves the text so that the cursor can be seen; only painting does it.
     void keepCursorInSight(const QLineEdit* edit);
     int textStart(const QLineEdit* edit) const;
     int positionAt(const QLineEdit* edit, int x) const;

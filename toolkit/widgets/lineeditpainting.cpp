@@ -60,12 +60,6 @@ int LineEditData::textStart(const QLineEdit* edit) const
 
 } // namespace zeltk
 
-void QLineEdit::resizeEvent(QResizeEvent* event)
-{
-    d->keepCursorInSight(this);
-    QFrame::resizeEvent(event);
-}
-
 namespace
 {
 
@@ -86,15 +80,14 @@ void QLineEdit::drawContents(QPainter* painter)
     const QRect contents = contentsRect();
     if (contents.isEmpty())
         return;
+    d->keepCursorInSight(this);
     const QColorGroup& g = colorGroup();
     QPixmap picture(contents.size());
     QPainter p(&picture, this);
     p.fillRect(picture.rect(), QBrush(paletteBackgroundColor()));
     p.translate(-contents.x(), -contents.y());
     const QRect line = d->lineRect(this);
-    p.setClipRect(QRect(0, 0, line.width() + 1, picture.height()).isEmpty()
-                      ? picture.rect()
-                      : QRect(line.x() - contents.x(), 0, line.width(), picture.height()));
+    p.setClipRect(QRect(line.x() - contents.x(), 0, line.width(), picture.height()));
     const QFontMetrics metrics(font());
     const QString text = onOneLine(d->shown());
     const int start = d->textStart(this);
@@ -111,7 +104,8 @@ void QLineEdit::drawContents(QPainter* painter)
         p.setPen(g.highlightedText());
         p.drawText(start, baseline, text);
         p.restore();
-    } else if (d->cursorVisible && hasFocus()) {
+    }
+    if (d->cursorVisible && !d->readOnly && hasFocus()) {
         const int x = start + metrics.width(text, echoMode() == NoEcho ? 0 : d->buffer.cursor());
         p.setPen(g.text());
         p.drawLine(x, line.y(), x, line.bottom());

@@ -154,8 +154,7 @@ void QListBox::paintItem(QPainter* p, QListBoxItem* item, const QRect& r)
     const QColorGroup& g = colorGroup();
     p->save();
     p->translate(r.x(), r.y());
-    if (item->s && !item->own)
-        p->fillRect(0, 0, r.width(), r.height(), QBrush(g.highlight()));
+    p->fillRect(0, 0, r.width(), r.height(), QBrush(item->s && !item->own ? g.highlight() : g.base()));
     p->setPen(item->s ? g.highlightedText() : g.text());
     p->setBackgroundColor(item->s ? g.highlight() : g.base());
     item->paint(p);

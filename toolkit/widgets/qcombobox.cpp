@@ -54,7 +54,7 @@ void QComboBox::init()
     zeltk::ensureStyled();
     setUpListBox();
     setFocusPolicy(StrongFocus);
-    setBackgroundMode(PaletteButton);
+    setBackgroundMode(PaletteButton, PaletteBase);
     setSizePolicy(QSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed));
 }
 
@@ -246,6 +246,8 @@ void QComboBox::setCurrentItem(int index)
     if (d->edit)
         d->edit->setText(text(index));
     d->list->setCurrentItem(index);
+    if (d->autoResize)
+        adjustSize();
     repaint(false);
 }
 
@@ -254,6 +256,8 @@ void QComboBox::currentChanged()
 {
     if (d->edit)
         d->edit->setText(text(d->current));
+    if (d->autoResize)
+        adjustSize();
     update();
 }
 
@@ -392,6 +396,18 @@ void QComboBox::setAutoCompletion(bool enable)
 bool QComboBox::autoCompletion() const
 {
     return d->completes;
+}
+
+void QComboBox::setAutoResize(bool enable)
+{
+    d->autoResize = enable;
+    if (enable)
+        adjustSize();
+}
+
+bool QComboBox::autoResize() const
+{
+    return d->autoResize;
 }
 
 void QComboBox::setDuplicatesEnabled(bool enable)

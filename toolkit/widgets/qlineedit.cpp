@@ -18,7 +18,6 @@ namespace zeltk
 void LineEditData::finish(QLineEdit* edit)
 {
     const QGuardedPtr<QLineEdit> alive(edit);
-    keepCursorInSight(edit);
     const bool textChanged = buffer.takeTextChanged();
     const bool selectionChanged = buffer.takeSelectionChanged();
     edit->repaint(false);
@@ -135,7 +134,6 @@ QLineEdit::EchoMode QLineEdit::echoMode() const
 void QLineEdit::setEchoMode(EchoMode mode)
 {
     d->echo = mode;
-    d->keepCursorInSight(this);
     update();
 }
 
@@ -203,7 +201,6 @@ int QLineEdit::alignment() const
 void QLineEdit::setAlignment(int alignment)
 {
     d->alignment = alignment;
-    d->keepCursorInSight(this);
     update();
 }
 
@@ -220,7 +217,6 @@ void QLineEdit::setDragEnabled(bool enable)
 void QLineEdit::setFont(const QFont& font)
 {
     QFrame::setFont(font);
-    d->keepCursorInSight(this);
     update();
 }
 

@@ -191,6 +191,10 @@ void QScrollBar::paintEvent(QPaintEvent*)
     motif::ScrollBarLook look;
     look.orientation = orientation();
     look.slider = sliderRect();
+    look.groove = orientation() == Horizontal ? QRect(grooveStart, 2, grooveLength(), motif::scrollBarArrow)
+                                              : QRect(2, grooveStart, motif::scrollBarArrow, grooveLength());
+    look.background = paletteBackgroundColor();
+    look.focus = hasFocus();
     look.decreasing = d->pressed == zeltk::ScrollBarData::LineBack && d->inside;
     look.increasing = d->pressed == zeltk::ScrollBarData::LineForward && d->inside;
     motif::drawScrollBar(&p, rect(), colorGroup(), look);

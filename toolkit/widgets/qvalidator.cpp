@@ -3,7 +3,7 @@
 
 #include <limits.h>
 
-#include <cfloat>
+#include <cmath>
 
 namespace
 {
@@ -89,7 +89,7 @@ void QIntValidator::setTop(int top)
 }
 
 QDoubleValidator::QDoubleValidator(QObject* parent, const char* name)
-    : QValidator(parent, name), b(-DBL_MAX), t(DBL_MAX), d(1000)
+    : QValidator(parent, name), b(-HUGE_VAL), t(HUGE_VAL), d(1000)
 {
 }
 
@@ -106,7 +106,7 @@ QValidator::State QDoubleValidator::validate(QString& input, int&) const
         return b >= 0 && input.find('-') >= 0 ? Invalid : Intermediate;
     bool ok = false;
     double number = input.toDouble(&ok);
-    if (!ok) {
+    if (!ok || (std::isinf(number) && exponentPlace(input) > 0)) {
         const int exponent = exponentPlace(input);
         if (exponent == 0)
             return Intermediate;

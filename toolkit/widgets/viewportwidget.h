@@ -9,7 +9,7 @@ class QViewportWidget : public QWidget
     Q_OBJECT
 
 public:
-    QViewportWidget(QScrollView* view) : QWidget(view, "qt_viewport", WResizeNoErase | WStaticContents) {}
+    QViewportWidget(QScrollView* view) : QWidget(view, "qt_viewport", WStaticContents) {}
 };
 
 #endif
