@@ -91,6 +91,20 @@ TEST(NoDisplay, AServerThatDoesNotAnswerIsNamed)
     EXPECT_EQ(1, other.exitStatus());
 }
 
+TEST(NoDisplay, ProgramsWithoutWindowsNeedNone)
+{
+    Program program(nullptr, {"--console"});
+    EXPECT_EQ("console, type 0\n", program.rest());
+    EXPECT_EQ(0, program.exitStatus());
+}
+
+TEST(NoDisplay, AWindowInSuchAProgramIsFatal)
+{
+    Program program(nullptr, {"--window"});
+    EXPECT_EQ("QWidget: a QApplication with windows is needed before any widget\n", program.rest());
+    EXPECT_EQ(1, program.exitStatus());
+}
+
 TEST(Display, CanBeNamedInTheCommandLine)
 {
     Program program(nullptr, {"-first", "-display", getenv("DISPLAY"), "second"});

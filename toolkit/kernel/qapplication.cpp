@@ -409,7 +409,8 @@ void QApplication::syncX()
 
 void QApplication::beep()
 {
-    x11::bell();
+    if (x11::connected())
+        x11::bell();
 }
 
 QString QApplication::applicationFilePath()

@@ -1,11 +1,31 @@
 // A program with one window, for tests that look at a program from outside. It prints the window's number.
+// With
+// --console as first argument it has no window and ends by itself; with --window it tries to make one
+// nevertheless.
 #include <qapplication.h>
+#include <qtimer.h>
 #include <qwidget.h>
 
 #include <cstdio>
+#include <cstring>
+
+static int runOnConsole(int argc, char** argv, bool makesWindow)
+{
+    QApplication application(argc, argv, false);
+    if (makesWindow)
+        QWidget window;
+    QApplication::beep();
+    QApplication::syncX();
+    QTimer::singleShot(0, &application, SLOT(quit()));
+    const int result = application.exec();
+    std::printf("console, type %d\n", application.type());
+    return result;
+}
 
 int main(int argc, char** argv)
 {
+    if (argc > 1 && (!std::strcmp(argv[1], "--console") || !std::strcmp(argv[1], "--window")))
+        return runOnConsole(argc, argv, !std::strcmp(argv[1], "--window"));
     QApplication application(argc, argv);
     QWidget window;
     application.setMainWidget(&window);
