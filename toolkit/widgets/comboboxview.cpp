@@ -54,8 +54,12 @@ void QComboBox::paintEvent(QPaintEvent*)
         p.drawPixmap(x, field.y() + (field.height() - pixmap->height()) / 2, *pixmap);
         x += pixmap->width() + 3;
     }
-    motif::drawText(&p, QRect(x, field.y(), field.right() + 1 - x, field.height()),
-                    AlignLeft | AlignVCenter | SingleLine, g, isEnabled(), text(d->current), &g.buttonText());
+    QRect line(x, field.y(), field.right() + 1 - x, field.height());
+    const int missing = fontMetrics().height() - line.height();
+    if (missing > 0)
+        line = QRect(x, field.y() - (missing + 1) / 2, line.width(), fontMetrics().height());
+    motif::drawText(&p, line, AlignLeft | AlignVCenter | SingleLine, g, isEnabled(), text(d->current),
+                    &g.buttonText());
 }
 
 // Below the combo box; above it if there is no room.
@@ -84,8 +88,11 @@ void QComboBox::popup()
     }
     d->open = true;
     d->visited = false;
+    QFocusEvent::setReason(QFocusEvent::Popup);
     list->setFocus();
+    QFocusEvent::resetReason();
     list->show();
+    list->setTopItem(d->current);
 }
 
 // Without a choice the current entry is marked again.

@@ -320,7 +320,8 @@ void QComboBox::changeItem(const QPixmap& pixmap, const QString& text, int index
 void QComboBox::setPalette(const QPalette& palette)
 {
     QWidget::setPalette(palette);
-    d->list->setPalette(palette);
+    if (d->list)
+        d->list->setPalette(palette);
     if (d->edit)
         d->edit->setPalette(palette);
 }
@@ -328,7 +329,8 @@ void QComboBox::setPalette(const QPalette& palette)
 void QComboBox::setFont(const QFont& font)
 {
     QWidget::setFont(font);
-    d->list->setFont(font);
+    if (d->list)
+        d->list->setFont(font);
     if (d->edit)
         d->edit->setFont(font);
 }
