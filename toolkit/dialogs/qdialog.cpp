@@ -2,6 +2,7 @@
 #include <qdialog.h>
 
 #include "kernel/applicationprivate.h"
+#include "dialogs/dialogdata.h"
 #include "widgets/defaultbutton.h"
 
 #include <qapplication.h>
@@ -10,17 +11,6 @@
 #include <qguardedptr.h>
 #include <qpushbutton.h>
 #include <qwidgetlist.h>
-
-namespace zeltk
-{
-
-struct DialogData {
-    int result = 0;
-    bool placed = false;    // by the program
-    bool executing = false; // exec() runs
-};
-
-} // namespace zeltk
 
 namespace
 {

@@ -30,6 +30,16 @@ public:
     void setGeometry(int x, int y, int w, int h);
     void setGeometry(const QRect& rect);
 
+    //! A part beside (or, Vertical, below) the rest that is shown on demand.
+    void setExtension(QWidget* extension);
+    QWidget* extension() const;
+    void setOrientation(Orientation orientation);
+    Orientation orientation() const;
+
+    //! A corner to resize the dialog with.
+    void setSizeGripEnabled(bool enable);
+    bool isSizeGripEnabled() const;
+
     void setModal(bool modal);
     bool isModal() const;
 
@@ -42,10 +52,13 @@ protected slots:
     virtual void accept();
     virtual void reject();
 
+    void showExtension(bool show);
+
 protected:
     void setResult(int result);
     void keyPressEvent(QKeyEvent* event);
     void closeEvent(QCloseEvent* event);
+    void resizeEvent(QResizeEvent* event);
     void adjustPosition(QWidget* anchor);
 
 private:
