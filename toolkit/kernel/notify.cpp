@@ -142,3 +142,20 @@ bool QApplication::notify(QObject* receiver, QEvent* event)
         return deliver(receiver, event);
     }
 }
+
+namespace zeltk
+{
+
+bool sendSpontaneous(QObject* receiver, QEvent* event)
+{
+    EventAccess::setSpontaneous(event, true);
+    return qApp->notify(receiver, event);
+}
+
+} // namespace zeltk
+
+bool QApplication::sendEvent(QObject* receiver, QEvent* event)
+{
+    zeltk::EventAccess::setSpontaneous(event, false);
+    return qApp && qApp->notify(receiver, event);
+}

@@ -1,28 +1,22 @@
-// QApplication: beginning and end, settings, delivery of events.
+// QApplication: beginning, loops and end.
 #include <qapplication.h>
 
 #include "kernel/applicationdata.h"
 #include "kernel/applicationprivate.h"
-#include "kernel/objectdata.h"
 #include "kernel/widgetdata.h"
-#include "painting/defaultfont.h"
-#include "painting/defaultpalette.h"
 #include "tools/unicode.h"
 #include "x11/connection.h"
 #include "x11/errors.h"
 #include "x11/input.h"
-#include "x11/window.h"
 
 #include <qeventloop.h>
 #include <qtranslator.h>
-#include <qwidgetlist.h>
 
 #include <algorithm>
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <map>
 #include <unistd.h>
 
 using zeltk::application;
@@ -165,54 +159,6 @@ bool QApplication::closingDown()
     return application()->closing;
 }
 
-QCursor* QApplication::overrideCursor()
-{
-    std::vector<QCursor>& cursors = application()->overrideCursors;
-    return cursors.empty() ? nullptr : &cursors.back();
-}
-
-namespace
-{
-
-void applyCursors()
-{
-    for (QWidget* widget : zeltk::everyWidget())
-        if (widget->ownCursor() || widget->isTopLevel())
-            zeltk::applyCursor(widget);
-}
-
-} // namespace
-
-void QApplication::setOverrideCursor(const QCursor& cursor, bool replace)
-{
-    std::vector<QCursor>& cursors = application()->overrideCursors;
-    if (replace && !cursors.empty())
-        cursors.pop_back();
-    cursors.push_back(cursor);
-    applyCursors();
-    flushX();
-}
-
-void QApplication::restoreOverrideCursor()
-{
-    std::vector<QCursor>& cursors = application()->overrideCursors;
-    if (cursors.empty())
-        return;
-    cursors.pop_back();
-    applyCursors();
-    flushX();
-}
-
-bool QApplication::hasGlobalMouseTracking()
-{
-    return application()->globalTracking;
-}
-
-void QApplication::setGlobalMouseTracking(bool enable)
-{
-    application()->globalTracking = enable;
-}
-
 QWidget* QApplication::mainWidget() const
 {
     return application()->mainWidget;
@@ -224,62 +170,6 @@ void QApplication::setMainWidget(QWidget* widget)
 }
 
 void QApplication::polish(QWidget*) {}
-
-QWidgetList* QApplication::allWidgets()
-{
-    QWidgetList* list = new QWidgetList;
-    for (QWidget* widget : zeltk::everyWidget())
-        list->append(widget);
-    return list;
-}
-
-QWidgetList* QApplication::topLevelWidgets()
-{
-    QWidgetList* list = new QWidgetList;
-    for (QWidget* widget : zeltk::everyWidget())
-        if (widget->isTopLevel())
-            list->append(widget);
-    return list;
-}
-
-QDesktopWidget* QApplication::desktop()
-{
-    ApplicationData* app = application();
-    if (!app->desktop)
-        app->desktop = new QDesktopWidget;
-    return app->desktop;
-}
-
-QWidget* QApplication::activePopupWidget()
-{
-    return application()->popups.empty() ? nullptr : application()->popups.back();
-}
-
-QWidget* QApplication::activeModalWidget()
-{
-    return application()->modals.empty() ? nullptr : application()->modals.back();
-}
-
-QWidget* QApplication::focusWidget() const
-{
-    return application()->focus;
-}
-
-QWidget* QApplication::activeWindow() const
-{
-    return application()->active;
-}
-
-QWidget* QApplication::widgetAt(int x, int y, bool child)
-{
-    QWidget* widget = QWidget::find(x11::windowAt(x, y));
-    return widget && !child ? widget->topLevelWidget() : widget;
-}
-
-QWidget* QApplication::widgetAt(const QPoint& pos, bool child)
-{
-    return widgetAt(pos.x(), pos.y(), child);
-}
 
 QEventLoop* QApplication::eventLoop()
 {
@@ -337,46 +227,6 @@ void QApplication::quit()
     exit(0);
 }
 
-void QApplication::closeAllWindows()
-{
-    for (QWidget* widget : std::vector<QWidget*>(zeltk::everyWidget())) {
-        const std::vector<QWidget*>& left = zeltk::everyWidget();
-        if (std::find(left.begin(), left.end(), widget) == left.end() || !widget->isTopLevel() ||
-            widget->isHidden() || widget->isDesktop())
-            continue;
-        if (!widget->close())
-            return;
-    }
-}
-
-namespace zeltk
-{
-
-void windowClosed(QWidget*, bool wasMainWidget)
-{
-    if (wasMainWidget && qApp)
-        qApp->quit();
-    for (const QWidget* widget : everyWidget())
-        if (widget->isTopLevel() && !widget->isHidden() && !widget->isDesktop() && !widget->isPopup())
-            return;
-    if (qApp)
-        ApplicationAccess::emitLastWindowClosed();
-}
-
-bool sendSpontaneous(QObject* receiver, QEvent* event)
-{
-    EventAccess::setSpontaneous(event, true);
-    return qApp->notify(receiver, event);
-}
-
-} // namespace zeltk
-
-bool QApplication::sendEvent(QObject* receiver, QEvent* event)
-{
-    zeltk::EventAccess::setSpontaneous(event, false);
-    return qApp && qApp->notify(receiver, event);
-}
-
 bool QApplication::event(QEvent* event)
 {
     if (event->type() == QEvent::Close) {
@@ -425,54 +275,4 @@ QString QApplication::applicationDirPath()
     const QString file = applicationFilePath();
     const int slash = file.findRev('/');
     return slash < 0 ? QString(".") : file.left(static_cast<uint>(slash));
-}
-
-void QApplication::setCursorFlashTime(int msecs)
-{
-    application()->flashTime = msecs;
-}
-
-int QApplication::cursorFlashTime()
-{
-    return application()->flashTime;
-}
-
-void QApplication::setDoubleClickInterval(int msecs)
-{
-    application()->doubleClickInterval = msecs;
-}
-
-int QApplication::doubleClickInterval()
-{
-    return application()->doubleClickInterval;
-}
-
-void QApplication::setWheelScrollLines(int lines)
-{
-    application()->wheelLines = lines;
-}
-
-int QApplication::wheelScrollLines()
-{
-    return application()->wheelLines;
-}
-
-void QApplication::setStartDragTime(int msecs)
-{
-    application()->dragTime = msecs;
-}
-
-int QApplication::startDragTime()
-{
-    return application()->dragTime;
-}
-
-void QApplication::setStartDragDistance(int pixels)
-{
-    application()->dragDistance = pixels;
-}
-
-int QApplication::startDragDistance()
-{
-    return application()->dragDistance;
 }
