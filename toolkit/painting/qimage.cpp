@@ -26,9 +26,26 @@ using zeltk::ImageData;
 namespace
 {
 
-bool isPng(const char* format)
+// What programs read outside of an image.
+const QRgb outsideColor = 12345;
+
+bool isWithin(const QImage& image, const char* function, int x, int y)
 {
-    return !format || qstricmp(format, "PNG") == 0;
+    if (image.valid(x, y))
+        return true;
+    if (x < 0 || x >= image.width())
+        qWarning("QImage::%s: x=%d out of range", function, x);
+    else
+        qWarning("QImage::%s: y=%d out of range", function, y);
+    return false;
+}
+
+bool canWrite(const char* format)
+{
+    const bool known = format && qstrcmp(format, "PNG") == 0;
+    if (!known)
+        qWarning("QImageIO::write: No such image format handler: %s", format);
+    return known;
 }
 
 } // namespace
@@ -194,20 +211,15 @@ void QImage::fill(uint pixel)
 
 QRgb QImage::pixel(int x, int y) const
 {
-    if (!valid(x, y)) {
-        qWarning("QImage::pixel: (%d, %d) is outside of the image", x, y);
-        return 0;
-    }
-    const QRgb value = d->pixels[static_cast<size_t>(y * d->width + x)];
-    return d->alpha ? value : value | 0xff000000;
+    if (!isWithin(*this, "pixel", x, y))
+        return outsideColor;
+    return d->pixels[static_cast<size_t>(y * d->width + x)];
 }
 
 void QImage::setPixel(int x, int y, uint pixel)
 {
-    if (!valid(x, y)) {
-        qWarning("QImage::setPixel: (%d, %d) is outside of the image", x, y);
+    if (!isWithin(*this, "setPixel", x, y))
         return;
-    }
     d->pixels[static_cast<size_t>(y * d->width + x)] = pixel;
 }
 
@@ -224,7 +236,7 @@ QImage QImage::mirror(bool horizontally, bool vertically) const
 bool QImage::load(const QString& fileName, const char* format)
 {
     zeltk::PngPicture picture;
-    if (!isPng(format) || !zeltk::readPng(zeltk::toUtf8(fileName), &picture) ||
+    if ((format && qstrcmp(format, "PNG") != 0) || !zeltk::readPng(zeltk::toUtf8(fileName), &picture) ||
         !create(picture.width, picture.height, 32))
         return false;
     d->pixels = picture.pixels;
@@ -234,6 +246,6 @@ bool QImage::load(const QString& fileName, const char* format)
 
 bool QImage::save(const QString& fileName, const char* format, int) const
 {
-    return !isNull() && isPng(format) &&
+    return !isNull() && canWrite(format) &&
            zeltk::writePng(zeltk::toUtf8(fileName), {d->width, d->height, d->alpha, d->pixels});
 }
