@@ -12,11 +12,12 @@ void addLabelRow(GalleryWindow& gallery);
 void addColorButtonRow(GalleryWindow& gallery);
 void addPushButtonRow(GalleryWindow& gallery);
 void addFrameRow(GalleryWindow& gallery);
+void addFieldRow(GalleryWindow& gallery);
 void addGraphRow(GalleryWindow& gallery);
 
 const AddRow galleryRows[] = {
     addActiveLabelRow, addActiveLabel2Row, addLabelRow, addColorButtonRow,
-    addPushButtonRow,  addFrameRow,        addGraphRow,
+    addPushButtonRow,  addFrameRow,        addFieldRow, addGraphRow,
 };
 
 #endif
