@@ -67,15 +67,10 @@ void focusChanged(QWidget* window, const x11::Event& e)
 {
     if (window->isPopup())
         return;
-    if (e.type == x11::Event::FocusLost) {
-        if (application()->active == window)
-            setActive(nullptr);
-        return;
-    }
-    if (blockedByModal(window))
-        QApplication::activeModalWidget()->setActiveWindow();
-    else
+    if (e.type == x11::Event::FocusGained)
         setActive(window->topLevelWidget());
+    else if (application()->active == window)
+        setActive(nullptr);
 }
 
 } // namespace zeltk

@@ -81,11 +81,16 @@ void QEventLoop::waitForEvents(ProcessEventsFlags flags)
     awake();
 }
 
+// Goes on while the server has more. A timer that is always due does not count: it would take all the time.
 void QEventLoop::processEvents(ProcessEventsFlags flags, int maxtime)
 {
     QTime start = QTime::currentTime();
-    while (!d->quit && processEvents(flags & ~static_cast<uint>(WaitForMore)) && start.elapsed() < maxtime) {
-    }
+    const bool withInput = !(flags & ExcludeUserInput);
+    do {
+        if (d->quit)
+            return;
+        processEvents(flags & ~static_cast<uint>(WaitForMore));
+    } while (x11::connected() && x11::eventsPending(withInput) && start.elapsed() < maxtime);
 }
 
 int QEventLoop::exec()
