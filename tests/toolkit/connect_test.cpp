@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 #include <qobject.h>
+#include <qstringlist.h>
 
 #include <string>
 
@@ -30,6 +31,7 @@ signals:
     void none();
     void number(int);
     void two(int, const QString&);
+    void words(QStringList);
 
 protected:
     void connectNotify(const char* signal) override { notes += std::string("+") + signal + " "; }
@@ -59,6 +61,7 @@ public slots:
     void none() { heard += "none "; }
     void number(int value) { heard += "number " + std::to_string(value) + " "; }
     void flag(bool) { heard += "flag "; }
+    void word(QString) { heard += "word "; }
     void text(const QString& value) { heard += std::string("text ") + value.latin1() + " "; }
     void two(int value, const QString& text)
     {
@@ -102,6 +105,7 @@ TEST(Connect, OtherArgumentsDoNotFit)
         {"none()", "number(int)"},
         {"number(int)", "flag(bool)"},
         {"two(int,const QString&)", "text(const QString&)"},
+        {"words(QStringList)", "word(QString)"},
         {"number(int)", "two(int,const QString&)"},
     };
     Sender sender;
