@@ -39,6 +39,8 @@ public:
         XEvent event;
         if (!next(SelectionNotify, &event) || event.xselection.property == 0)
             return "refused";
+        while (XCheckTypedEvent(m_display, PropertyNotify, &event))
+            ; // of what comes with the answer itself
         std::string all = take();
         if (m_type != atom("INCR"))
             return all;

@@ -15,8 +15,8 @@ Window selectionWindow();
 Atom selectionAtom(Selection selection);
 // Asks the owner of the selection for its text.
 bool requestText(Atom selection, std::string* utf8);
-// Waits until the server has news for the program or the deadline is over, in milliseconds of a clock that
-// only grows.
+// Waits a little while for news from the server; false when the deadline is over, in milliseconds of a clock
+// that only grows.
 bool waitForNews(long deadline);
 long clockMilliseconds();
 

@@ -1,6 +1,7 @@
 // Receiving the selections of other programs.
 #include "x11/selectionprivate.h"
 
+#include <algorithm>
 #include <chrono>
 #include <poll.h>
 
@@ -111,13 +112,16 @@ long clockMilliseconds()
     return static_cast<long>(duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count());
 }
 
+// Sending may read too, so that news are there already and the descriptor stays silent; no wait is long
+// therefore.
 bool waitForNews(long deadline)
 {
     const long rest = deadline - clockMilliseconds();
-    pollfd server = {connectionFd(), POLLIN, 0};
-    XFlush(display());
-    if (rest <= 0 || poll(&server, 1, static_cast<int>(rest)) <= 0)
+    if (rest <= 0)
         return false;
+    XFlush(display());
+    pollfd server = {connectionFd(), POLLIN, 0};
+    poll(&server, 1, static_cast<int>(std::min(rest, 10L)));
     XEventsQueued(display(), QueuedAfterReading);
     return true;
 }
