@@ -217,10 +217,15 @@ TEST(ColorDialog, KeepsCustomColours)
     choose([](QWidget* dialog) {
         press(dialog, "&Add to Custom Colors");
         settle();
+        type(dialog, "qt_red_edit", "100");
+        press(dialog, "&Add to Custom Colors");
+        settle();
         press(dialog, "Cancel");
     });
     EXPECT_EQ(start.rgb(), QColorDialog::customColor(0));
+    EXPECT_EQ(qRgb(100, 100, 50), QColorDialog::customColor(1)) << "the next one";
     QColorDialog::setCustomColor(0, qRgb(255, 255, 255));
+    QColorDialog::setCustomColor(1, qRgb(255, 255, 255));
     QColorDialog::setCustomColor(3, qRgb(1, 2, 3));
     EXPECT_EQ(qRgb(1, 2, 3), QColorDialog::customColor(3));
 }
