@@ -145,13 +145,12 @@ void clearArea(XId window, int x, int y, int width, int height)
 // Parts that lie under other windows come as Expose events.
 void scrollWindow(XId window, int sx, int sy, int width, int height, int dx, int dy)
 {
-    static const GC gc = [] {
-        XGCValues values;
-        values.graphics_exposures = True;
-        return XCreateGC(display(), rootWindow(), GCGraphicsExposures, &values);
-    }();
+    XGCValues values;
+    values.graphics_exposures = True;
+    const GC gc = XCreateGC(display(), window, GCGraphicsExposures, &values);
     XCopyArea(display(), window, window, gc, sx, sy, static_cast<unsigned>(width),
               static_cast<unsigned>(height), dx, dy);
+    XFreeGC(display(), gc);
 }
 
 void setShape(XId window, const std::vector<ClipRect>* shape)
