@@ -66,10 +66,11 @@ void QPainter::drawPolyline(const QPointArray& points, int index, int count)
 
 void QPainter::drawCubicBezier(const QPointArray& points, int index)
 {
-    QPointArray control(4);
-    if (!control.putPoints(0, 4, points, index) || static_cast<int>(points.size()) < index + 4) {
+    if (static_cast<int>(points.size()) < index + 4) {
         qWarning("QPainter::drawCubicBezier: Cubic Bezier needs 4 control points");
         return;
     }
+    QPointArray control(4);
+    control.putPoints(0, 4, points, index);
     drawPolyline(control.cubicBezier());
 }

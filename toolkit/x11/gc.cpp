@@ -69,14 +69,15 @@ void set(GcSlot* slot, const GcKey& key)
     ++slot->version;
 }
 
+// Never destroyed: pixmaps that outlive main() still ask it to forget them.
 std::vector<GcSlot>& store()
 {
-    static std::vector<GcSlot> slots = [] {
-        std::vector<GcSlot> s;
-        s.reserve(storeSize);
-        return s;
+    static std::vector<GcSlot>* const slots = [] {
+        auto* made = new std::vector<GcSlot>;
+        made->reserve(storeSize);
+        return made;
     }();
-    return slots;
+    return *slots;
 }
 
 } // namespace
