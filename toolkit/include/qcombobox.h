@@ -112,7 +112,6 @@ signals:
 private slots:
     void internalActivate(int index);
     void internalHighlight(int index);
-    void internalClickTimeout();
     void returnPressed();
 
 protected:

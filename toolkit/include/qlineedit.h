@@ -115,9 +115,6 @@ protected:
     void drawContents(QPainter* p);
     void windowActivationChange(bool oldActive);
 
-private slots:
-    void clipboardChanged();
-
 private:
     void init();
     void returnKey();

@@ -19,6 +19,7 @@ void QComboBox::mouseDoubleClickEvent(QMouseEvent* event)
     mousePressEvent(event);
 }
 
+// These do not go on to the parent.
 void QComboBox::mouseMoveEvent(QMouseEvent*) {}
 
 void QComboBox::mouseReleaseEvent(QMouseEvent*) {}
@@ -117,11 +118,6 @@ void QComboBox::internalActivate(int index)
     emit activated(index);
     if (alive)
         emit activated(text(index));
-}
-
-void QComboBox::internalClickTimeout()
-{
-    d->visited = true;
 }
 
 void QComboBox::returnPressed()

@@ -144,13 +144,6 @@ void EditBuffer::removeSelection()
     apply(Kind::Selection, from, count, QString());
 }
 
-void EditBuffer::overwrite(int from, const QString& text, int newCursor)
-{
-    deselect();
-    apply(Kind::Insert, from, static_cast<int>(text.length()), text);
-    place = newCursor;
-}
-
 void EditBuffer::undo()
 {
     deselect();

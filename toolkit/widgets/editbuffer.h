@@ -39,8 +39,6 @@ public:
     void removeBehind();
     void removeRest();
     void removeSelection();
-    // In place of what is there, letter by letter; the length stays.
-    void overwrite(int from, const QString& text, int newCursor);
 
     bool canUndo() const { return done > 0; }
     bool canRedo() const { return done < static_cast<int>(history.size()); }

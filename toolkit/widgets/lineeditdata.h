@@ -15,7 +15,6 @@ namespace zeltk
 struct LineEditData {
     EditBuffer buffer;
     int maxLength = 32767;
-    bool frame = true;
     bool readOnly = false;
     QLineEdit::EchoMode echo = QLineEdit::Normal;
     int alignment = Qt::AlignAuto;

@@ -2,7 +2,6 @@
 #include "widgets/lineeditdata.h"
 
 #include <qevent.h>
-#include <qguardedptr.h>
 
 using zeltk::EditBuffer;
 
@@ -21,7 +20,6 @@ bool isText(const QKeyEvent* event)
 void QLineEdit::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Key_Return || event->key() == Key_Enter) {
-        const QGuardedPtr<QLineEdit> alive(this);
         event->ignore();
         returnKey();
         return;

@@ -322,5 +322,3 @@ void QLineEdit::paste()
 {
     insert(QApplication::clipboard()->text(QClipboard::Clipboard));
 }
-
-void QLineEdit::clipboardChanged() {}
