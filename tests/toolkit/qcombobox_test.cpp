@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 #include <qapplication.h>
 #include <qcombobox.h>
+#include <qfontmetrics.h>
 #include <qlineedit.h>
 #include <qlistbox.h>
 #include <qstringlist.h>
@@ -282,4 +283,14 @@ TEST_P(EditableComboBox, TypingIsCompletedOnWish)
     xinput::typeText("h");
     settle();
     EXPECT_EQ(combo.lineEdit()->selectedText(), QString("ree"));
+}
+
+TEST_P(ComboBox, WantsRoomForItsWidestEntry)
+{
+    const QFontMetrics metrics(combo.font());
+    combo.insertItem("An entry that is wider than all the others");
+    const int text = metrics.width("An entry that is wider than all the others");
+    EXPECT_EQ(combo.sizeHint(), QSize(text + 31, metrics.lineSpacing() + 6));
+    combo.clear();
+    EXPECT_EQ(combo.sizeHint().width(), 7 * metrics.width('x') + 43);
 }

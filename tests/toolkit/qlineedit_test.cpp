@@ -278,3 +278,10 @@ TEST_F(LineEdit, AValidatorRefusesWhatIsTyped)
     EXPECT_EQ(heard(), "returnPressed");
     edit.clearValidator();
 }
+
+TEST_F(LineEdit, WantsRoomForSeventeenLetters)
+{
+    const QFontMetrics metrics(edit.font());
+    EXPECT_EQ(edit.sizeHint(), QSize(17 * metrics.width('x') + 4, metrics.lineSpacing() + 6));
+    EXPECT_EQ(edit.minimumSizeHint().height(), metrics.height() + 6);
+}

@@ -35,6 +35,7 @@ struct ScrollBarLook {
 void drawScrollBar(QPainter* p, const QRect& r, const QColorGroup& g, const ScrollBarLook& look);
 
 // A raised box with an arrow; the field is where the text stands.
+constexpr int comboBoxArrowRoom = 25; // wished for, with the frame
 QRect comboBoxField(const QRect& r);
 QRect comboBoxFocusFrame(const QRect& r);
 void drawComboBox(QPainter* p, const QRect& r, const QColorGroup& g, bool editable);

@@ -17,16 +17,14 @@ QSize QComboBox::sizeHint() const
 {
     constPolish();
     const QFontMetrics metrics = fontMetrics();
-    int width = count() == 0 ? 7 * metrics.width('x') : 0;
+    int width = 7 * metrics.width('x') + 18;
     int height = std::max(metrics.lineSpacing(), 14) + 2;
     for (int i = 0; i < count(); ++i) {
         const QListBoxItem* item = d->list->item(i);
         width = std::max(width, item->width(d->list));
         height = std::max(height, item->height(d->list));
     }
-    const QRect probe(0, 0, 200, height + 6);
-    const int around = probe.width() - motif::comboBoxField(probe).width();
-    return QSize(width + around, height + 6);
+    return QSize(width + motif::comboBoxArrowRoom, height + 2 * motif::frameWidth);
 }
 
 void QComboBox::resizeEvent(QResizeEvent*)

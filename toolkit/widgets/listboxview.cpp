@@ -169,6 +169,8 @@ void QListBox::paintItem(QPainter* p, QListBoxItem* item, const QRect& r)
 QSize QListBox::sizeHint() const
 {
     constPolish();
+    if (count() == 0)
+        return QSize(100, 40);
     const int frame = 2 * frameWidth();
     const QSize wanted(std::max(totalWidth(), fontMetrics().width('x') * 10) + frame,
                        std::max(std::min(10, static_cast<int>(count())), 3) * std::max(1, itemHeight()) +

@@ -229,16 +229,16 @@ QSize QLineEdit::sizeHint() const
 {
     constPolish();
     const QFontMetrics metrics(font());
-    const int around = 2 * (frameWidth() + 1);
-    return QSize(metrics.width('x') * 17 + around, QMAX(metrics.lineSpacing(), 14) + around);
+    const int frame = 2 * frameWidth();
+    return QSize(metrics.width('x') * 17 + frame, QMAX(metrics.lineSpacing(), 14) + 2 + frame);
 }
 
 QSize QLineEdit::minimumSizeHint() const
 {
     constPolish();
     const QFontMetrics metrics(font());
-    const int around = 2 * (frameWidth() + 1);
-    return QSize(metrics.maxWidth() + around, metrics.height() + around);
+    const int frame = 2 * frameWidth();
+    return QSize(metrics.maxWidth() + frame, metrics.height() + 2 + frame);
 }
 
 bool QLineEdit::isModified() const
