@@ -18,20 +18,12 @@ bool QListBox::eventFilter(QObject* watched, QEvent* event)
 {
     if (!d || watched != viewport())
         return QScrollView::eventFilter(watched, event);
-    QMouseEvent* mouse = static_cast<QMouseEvent*>(event);
     switch (event->type()) {
     case QEvent::MouseButtonPress:
-        mousePressEvent(mouse);
-        return mouse->isAccepted();
     case QEvent::MouseButtonRelease:
-        mouseReleaseEvent(mouse);
-        return mouse->isAccepted();
     case QEvent::MouseButtonDblClick:
-        mouseDoubleClickEvent(mouse);
-        return mouse->isAccepted();
     case QEvent::MouseMove:
-        mouseMoveEvent(mouse);
-        return mouse->isAccepted();
+        break;
     case QEvent::ContextMenu: {
         QContextMenuEvent* menu = static_cast<QContextMenuEvent*>(event);
         emit contextMenuRequested(itemAt(menu->pos()), menu->globalPos());
@@ -40,6 +32,16 @@ bool QListBox::eventFilter(QObject* watched, QEvent* event)
     default:
         return QScrollView::eventFilter(watched, event);
     }
+    QMouseEvent* mouse = static_cast<QMouseEvent*>(event);
+    if (event->type() == QEvent::MouseButtonPress)
+        mousePressEvent(mouse);
+    else if (event->type() == QEvent::MouseButtonRelease)
+        mouseReleaseEvent(mouse);
+    else if (event->type() == QEvent::MouseButtonDblClick)
+        mouseDoubleClickEvent(mouse);
+    else
+        mouseMoveEvent(mouse);
+    return mouse->isAccepted();
 }
 
 void QListBox::mousePressEvent(QMouseEvent* event)
