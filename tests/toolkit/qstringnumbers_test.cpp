@@ -6,6 +6,7 @@
 #include <qstring.h>
 
 #include <climits>
+#include <limits>
 #include <clocale>
 
 TEST(StringNumbers, AreWritten)
@@ -72,7 +73,7 @@ TEST(StringNumbers, AreRead)
         {"007", 7, 7, 7, "iud"},
         {"- 5", 0, 0, 0, ""},
         {"--5", 0, 0, 0, ""},
-        {"inf", 0, 0, 0, ""},
+        {"inf", 0, 0, std::numeric_limits<double>::infinity(), "d"},
     };
     for (const auto& each : cases) {
         const QString text(each.text);
