@@ -32,7 +32,7 @@ std::string picture(const QRegion& region, int width, int height)
     return text;
 }
 
-// A few rectangles at places that follow from the seed.
+// A few rectangles at places that follow from its number.
 QRegion scattered(unsigned seed, bool pixels[extent][extent])
 {
     QRegion region;

@@ -1,4 +1,4 @@
-// What windows tell the window manager: the properties of ICCCM and of the desktop specification.
+// What windows tell the window manager: the properties of ICCCM and of the desktop conventions (EWMH).
 #include "x11/wmhints.h"
 
 #include "x11/xlib.h"
