@@ -1,4 +1,4 @@
-// Programs without an X server, and programs that lose it.
+// Programs without an X server or without fonts, and programs that lose the server.
 #include "xinput.h"
 
 #include <gtest/gtest.h>
@@ -127,4 +127,19 @@ TEST(LostDisplay, EndsTheProgramWithAMessage)
     EXPECT_EQ("The connection to the X server " + std::string(getenv("DISPLAY")) + " is lost.\n",
               program.rest());
     EXPECT_EQ(1, program.exitStatus());
+}
+
+TEST(NoFont, IsReportedOnceAndEverythingElseWorks)
+{
+    const std::string file = testing::TempDir() + "/nofonts-" + std::to_string(getpid()) + ".conf";
+    std::FILE* config = std::fopen(file.c_str(), "w");
+    ASSERT_TRUE(config);
+    std::fputs("<?xml version=\"1.0\"?><fontconfig></fontconfig>\n", config);
+    std::fclose(config);
+    setenv("FONTCONFIG_FILE", file.c_str(), 1);
+    Program program(getenv("DISPLAY"), {"--texts"});
+    unsetenv("FONTCONFIG_FILE");
+    EXPECT_EQ("fontconfig finds no usable font, so no text can be shown.\nlabel measured\n", program.rest());
+    EXPECT_EQ(0, program.exitStatus());
+    std::remove(file.c_str());
 }

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdio>
 #include <map>
 #include <memory>
 #include <tuple>
@@ -74,6 +75,15 @@ GlyphBox missingBox(const Font* font)
     return {0, -side, side, side, font->pixelSize};
 }
 
+// Without any font text stays invisible, but it has measures, so that windows still work.
+void reportNoFont()
+{
+    static bool reported = false;
+    if (!reported)
+        std::fprintf(stderr, "fontconfig finds no usable font, so no text can be shown.\n");
+    reported = true;
+}
+
 } // namespace
 
 bool isBoxed(const Font* font, char16_t c)
@@ -90,8 +100,10 @@ const Font* openFont(const FontRequest& request)
     if (font)
         return font.get();
     XftFont* face = openFace(request, request.pixelSize);
-    if (!face) // no font at all: text stays invisible, but it has measures
+    if (!face) {
+        reportNoFont();
         return nullptr;
+    }
     font.reset(new Font);
     font->face = font->measured = face;
     font->scale = 1.0;

@@ -1,8 +1,9 @@
 // A program with one window, for tests that look at a program from outside. It prints the window's number.
-// With
-// --console as first argument it has no window and ends by itself; with --window it tries to make one
-// nevertheless.
+// With --console as first argument it has no window and ends by itself; with --window it tries to make one
+// nevertheless. With --texts its window shows texts of several fonts, and it ends by itself.
 #include <qapplication.h>
+#include <qlabel.h>
+#include <qpushbutton.h>
 #include <qtimer.h>
 #include <qwidget.h>
 
@@ -22,10 +23,29 @@ static int runOnConsole(int argc, char** argv, bool makesWindow)
     return result;
 }
 
+static int showTexts(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    QWidget window;
+    QLabel label("A label", &window);
+    label.setFont(QFont("Courier", 24, QFont::Bold, true));
+    label.adjustSize();
+    QPushButton button("A button", &window);
+    button.setGeometry(0, label.height(), 100, 30);
+    window.resize(200, 200);
+    window.show();
+    QApplication::syncX();
+    application.processEvents();
+    std::printf("label %s\n", label.width() > 0 && label.height() > 0 ? "measured" : "empty");
+    return 0;
+}
+
 int main(int argc, char** argv)
 {
     if (argc > 1 && (!std::strcmp(argv[1], "--console") || !std::strcmp(argv[1], "--window")))
         return runOnConsole(argc, argv, !std::strcmp(argv[1], "--window"));
+    if (argc > 1 && !std::strcmp(argv[1], "--texts"))
+        return showTexts(argc, argv);
     QApplication application(argc, argv);
     QWidget window;
     application.setMainWidget(&window);
