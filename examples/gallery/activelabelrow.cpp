@@ -14,7 +14,7 @@ const struct {
 } orientations[] = {
     {"Upright", 0, 0, 40, 110, 30},
     {"Upwards", 1, 120, 0, 30, 110},
-    {"Upside down", 2, 160, 40, 110, 30},
+    {"Upside down", 2, 160, 40, 116, 30},
     {"Downwards", 3, 280, 0, 30, 110},
 };
 

@@ -8,7 +8,7 @@
 
 void addFieldRow(GalleryWindow& gallery)
 {
-    QWidget* const row = gallery.addRow("ZelLineEdit, ZelComboBox and ZelLineEditInt (0 to 255)", 28);
+    QWidget* const row = gallery.addRow("ZelLineEdit, ZelComboBox, ZelLineEditInt", 28);
     ZelLineEdit* const edit = new ZelLineEdit(row, "Text");
     edit->setText("Some text");
     edit->setGeometry(0, 0, 140, 28);

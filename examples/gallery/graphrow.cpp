@@ -9,7 +9,7 @@
 namespace
 {
 
-// Gives its graph a sample of two waves at each tick.
+// Fills its graph with two waves at the first tick and gives it a sample more at each further one.
 class Waves : public QObject
 {
 public:
@@ -18,11 +18,18 @@ public:
 protected:
     void timerEvent(QTimerEvent*)
     {
+        do
+            addSample();
+        while (m_step < m_graph->width());
+    }
+
+private:
+    void addSample()
+    {
         ++m_step;
         m_graph->setValue(static_cast<int>(50 + 35 * std::sin(m_step / 9.0) + 10 * std::sin(m_step / 2.3)));
     }
 
-private:
     ZelGraph* m_graph;
     int m_step;
 };

@@ -13,10 +13,11 @@ namespace
 {
 
 const char usage[] =
-    "usage: zelkit-gallery [--tour FOLDER]\n"
+    "usage: zelkit-gallery [--tour FOLDER | --closeups FOLDER]\n"
     "Shows every class of zelkit; the line at the bottom tells each signal as it comes.\n"
-    "  --tour FOLDER  move a real pointer over everything, write pictures into FOLDER, and end\n"
-    "  --help         print this and end\n"
+    "  --tour FOLDER      move a real pointer over everything, write pictures into FOLDER, and end\n"
+    "  --closeups FOLDER  the same, with pictures of the single widgets, each at rest too\n"
+    "  --help             print this and end\n"
     "X options such as -display NAME are understood too.\n";
 
 bool wantsHelp(int argc, char** argv)
@@ -39,8 +40,10 @@ int main(int argc, char** argv)
 
     // What the toolkit understands is gone from the arguments by now.
     std::string tourFolder;
-    if (argc == 3 && !std::strcmp(argv[1], "--tour")) {
+    Tour::View view = Tour::Window;
+    if (argc == 3 && (!std::strcmp(argv[1], "--tour") || !std::strcmp(argv[1], "--closeups"))) {
         tourFolder = argv[2];
+        view = !std::strcmp(argv[1], "--tour") ? Tour::Window : Tour::Widget;
     } else if (argc != 1) {
         std::fprintf(stderr, "zelkit-gallery: cannot make sense of \"%s\"\n%s", argv[1], usage);
         return 2;
@@ -55,7 +58,7 @@ int main(int argc, char** argv)
 
     if (tourFolder.empty())
         return application.exec();
-    Tour tour(window, tourFolder);
+    Tour tour(window, tourFolder, view);
     if (!tour.start())
         return 1;
     application.exec();

@@ -14,6 +14,8 @@ namespace
 {
 
 const int stepMilliseconds = 60;
+// What a picture of a single widget shows around it, in pixels.
+const int closeMargin = 4;
 
 // "Upside down" becomes "upside-down".
 std::string fileName(const char* objectName)
@@ -28,12 +30,16 @@ std::string fileName(const char* objectName)
 
 } // namespace
 
-Tour::Tour(GalleryWindow& gallery, const std::string& folder)
-    : m_gallery(gallery), m_folder(folder), m_next(0), m_acted(false), m_failed(false), m_display(0)
+Tour::Tour(GalleryWindow& gallery, const std::string& folder, View view)
+    : m_gallery(gallery), m_folder(folder), m_view(view), m_next(0), m_acted(false), m_failed(false),
+      m_display(0)
 {
-    m_steps.push_back({&gallery, Rest, "gallery"});
+    if (view == Window)
+        m_steps.push_back({&gallery, Rest, "gallery"});
     for (QWidget* const widget : gallery.tourStops()) {
         const std::string name = fileName(widget->className()) + "-" + fileName(widget->name());
+        if (view == Widget)
+            m_steps.push_back({widget, Rest, name + "-rest"});
         m_steps.push_back({widget, Hover, name + "-hover"});
         m_steps.push_back({widget, Press, name + "-pressed"});
         m_steps.push_back({widget, Release, name + "-clicked"});
@@ -75,7 +81,7 @@ void Tour::nextStep()
         return;
     }
     m_acted = false;
-    m_failed = !takePicture(step.picture);
+    m_failed = !takePicture(step);
     ++m_next;
     if (m_failed || m_next == m_steps.size())
         qApp->quit();
@@ -101,10 +107,18 @@ void Tour::act(const Step& step)
     XSync(m_display, False);
 }
 
-bool Tour::takePicture(const std::string& name)
+bool Tour::takePicture(const Step& step)
 {
-    const std::string path = m_folder + "/" + name + ".png";
-    const QPixmap picture = QPixmap::grabWindow(m_gallery.winId());
+    const std::string path = m_folder + "/" + step.picture + ".png";
+    const WId window = m_gallery.winId();
+    QPixmap picture;
+    if (m_view == Window) {
+        picture = QPixmap::grabWindow(window);
+    } else {
+        const QPoint corner = step.widget->mapTo(&m_gallery, QPoint(-closeMargin, -closeMargin));
+        picture = QPixmap::grabWindow(window, corner.x(), corner.y(), step.widget->width() + 2 * closeMargin,
+                                      step.widget->height() + 2 * closeMargin);
+    }
     if (!picture.save(path.c_str(), "PNG")) {
         std::fprintf(stderr, "zelkit-gallery: cannot write %s\n", path.c_str());
         return false;

@@ -12,14 +12,17 @@ class QWidget;
 struct _XDisplay;
 
 // Goes through the gallery with the real pointer (XTEST): rests on each widget, presses it, lets go, and
-// takes a picture of the window each time. Ends the application when it is through.
+// takes a picture each time. Ends the application when it is through.
 class Tour : public QObject
 {
     Q_OBJECT
 
 public:
+    // What the pictures show: the whole window, or only the widget, which is then seen at rest too.
+    enum View { Window, Widget };
+
     // Pictures go into that folder, which must exist.
-    Tour(GalleryWindow& gallery, const std::string& folder);
+    Tour(GalleryWindow& gallery, const std::string& folder, View view);
     ~Tour();
 
     // False, with a message, if there is no XTEST to work the pointer with.
@@ -39,10 +42,11 @@ private:
     };
 
     void act(const Step& step);
-    bool takePicture(const std::string& name);
+    bool takePicture(const Step& step);
 
     GalleryWindow& m_gallery;
     std::string m_folder;
+    View m_view;
     std::vector<Step> m_steps;
     unsigned m_next;
     bool m_acted;
