@@ -1,5 +1,5 @@
-# Decides which toolkit stands underneath and sets ZELKIT_TOOLKIT_USED (qt3 or bundled). With Qt 3 the imported
-# target zelkit_toolkit carries its headers and library; with the bundled toolkit it is an alias of zeltk.
+# Decides which toolkit stands underneath and sets ZELKIT_TOOLKIT_USED (qt3 or bundled). The target zelkit_toolkit
+# carries the headers and the library of the one that is used, zelkit::moc is its meta-object compiler.
 if(NOT ZELKIT_TOOLKIT MATCHES "^(auto|qt3|bundled)$")
   message(FATAL_ERROR "ZELKIT_TOOLKIT is \"${ZELKIT_TOOLKIT}\"; it must be auto, qt3 or bundled")
 endif()
@@ -17,14 +17,13 @@ else()
   endif()
 endif()
 
+add_library(zelkit_toolkit INTERFACE)
+set_target_properties(zelkit_toolkit PROPERTIES EXPORT_NAME toolkit)
+install(TARGETS zelkit_toolkit EXPORT zelkit)
 if(ZELKIT_TOOLKIT_USED STREQUAL qt3)
-  add_library(zelkit_toolkit INTERFACE)
-  target_include_directories(zelkit_toolkit INTERFACE ${QT_INCLUDE_DIR})
-  target_link_libraries(zelkit_toolkit INTERFACE ${QT_LIBRARIES})
-  separate_arguments(zelkit_qt_definitions UNIX_COMMAND "${QT_DEFINITIONS}")
-  target_compile_options(zelkit_toolkit INTERFACE ${zelkit_qt_definitions})
+  include(ZelkitQt3)
+  target_link_libraries(zelkit_toolkit INTERFACE zelkit::qt3)
 else()
-  add_library(zelkit_toolkit INTERFACE)
   target_link_libraries(zelkit_toolkit INTERFACE zeltk)
 endif()
 message(STATUS "zelkit is built on the toolkit: ${ZELKIT_TOOLKIT_USED}")

@@ -1,0 +1,35 @@
+// A window with a label; switches the label on and off and tells what its own slot saw of that.
+#include "toggles.h"
+
+#include <zellabel.h>
+#include <zelversion.h>
+
+#include <qapplication.h>
+#include <qtimer.h>
+
+#include <stdio.h>
+
+void Toggles::count(ZelLabel* label)
+{
+    ++(label->isOn() ? on : off);
+}
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    QWidget window(0, "window");
+    ZelLabel label("A toggle", &window, "toggle", true, 0);
+    Toggles toggles;
+    QObject::connect(&label, SIGNAL(clicked(ZelLabel*)), &toggles, SLOT(count(ZelLabel*)));
+    application.setMainWidget(&window);
+    window.show();
+
+    QTimer::singleShot(0, &application, SLOT(quit()));
+    application.exec();
+    label.setOn(true);
+    label.setOn(false);
+    label.setOn(true);
+    printf("zelkit %s: switched on %d, off %d, %s\n", zelkit_version_str(), toggles.on, toggles.off,
+           window.isVisible() ? "visible" : "hidden");
+    return 0;
+}
