@@ -2,8 +2,7 @@
 
 #include <qevent.h>
 
-#include <limits.h>
-#include <stdlib.h>
+#include "textnumber.h"
 
 namespace
 {
@@ -30,13 +29,9 @@ ZelLineEditInt::ZelLineEditInt(QWidget* parent, const char* name, int min, int m
 
 ZelLineEditInt::~ZelLineEditInt() {}
 
-// The number that the text begins with. What is too long is the largest or smallest int.
 int ZelLineEditInt::number() const
 {
-    const QString whole = text();
-    const char* const digits = whole.ascii();
-    const long value = digits ? strtol(digits, 0, 10) : 0;
-    return value > INT_MAX ? INT_MAX : value < INT_MIN ? INT_MIN : (int)value;
+    return leadingNumber(text());
 }
 
 void ZelLineEditInt::keyPressEvent(QKeyEvent* event)
