@@ -75,6 +75,41 @@ TEST_F(Bevels, OfSunkenPanelsAreTheOtherWayRound)
               drawing());
 }
 
+TEST_F(Bevels, OfPanelsTooSmallForTheirLinesRunOverTheEdge)
+{
+    qDrawShadePanel(&sheet.painter, 1, 2, 4, 4, group, false, 3);
+    qDrawShadePanel(&sheet.painter, 7, 3, 3, 3, group, false, 3);
+    EXPECT_EQ(R"(
+............
+............
+.LDDD..DDD..
+.LDDD..DDD..
+.LDDD..DDD..
+.DDDD.LDDD..
+.......L....
+............
+)",
+              drawing());
+}
+
+TEST_F(Bevels, OfTheSmallestWindowsPanelsAreDark)
+{
+    qDrawWinPanel(&sheet.painter, 1, 1, 2, 2, group, false);
+    qDrawWinPanel(&sheet.painter, 4, 1, 1, 1, group, false);
+    qDrawWinPanel(&sheet.painter, 6, 1, 3, 3, group, false);
+    EXPECT_EQ(R"(
+............
+..S...LLS...
+.SS...L.S...
+......SSS...
+............
+............
+............
+............
+)",
+              drawing());
+}
+
 TEST_F(Bevels, AvoidTheColourOfTheFill)
 {
     const QBrush light(group.light());

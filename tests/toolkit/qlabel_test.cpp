@@ -191,6 +191,31 @@ TEST_F(Label, WantsTheRoomOfItsText)
               label.sizeHint().height());
 }
 
+TEST_F(Label, GrowsWithItsFontUnlessItIsEmpty)
+{
+    QLabel empty("", &window);
+    const QSize wanted = label.sizeHint();
+    const QSize wantedByEmpty = empty.sizeHint();
+    const QFont large("DejaVu Sans", 24);
+    label.setFont(large);
+    empty.setFont(large);
+    EXPECT_LT(wanted.width(), label.sizeHint().width());
+    EXPECT_LT(wanted.height(), label.sizeHint().height());
+    EXPECT_EQ(wantedByEmpty, empty.sizeHint());
+    empty.setText("x");
+    EXPECT_EQ(QFontMetrics(large).height(), empty.sizeHint().height());
+}
+
+TEST_F(Label, ABuddyTakesTheSignOutOfItsSize)
+{
+    label.setText("&Text");
+    const int wanted = label.sizeHint().width();
+    label.setBuddy(&window);
+    EXPECT_EQ(wanted - label.fontMetrics().width('&'), label.sizeHint().width());
+    label.setBuddy(nullptr);
+    EXPECT_EQ(wanted, label.sizeHint().width());
+}
+
 TEST_F(Label, AChangedTextIsPaintedSoonAndTheOldOneGoes)
 {
     label.setText("MMMMMM");

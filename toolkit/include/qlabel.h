@@ -65,6 +65,7 @@ private:
     void drawPicture(QPainter* p);
     void updateAccelerator();
     QSize sizeForWidth(int width) const;
+    QSize measureText(int room) const;
 
     zeltk::LabelData* d;
 

@@ -2,6 +2,7 @@
 #include <qdrawutil.h>
 #include <qpainter.h>
 #include <qpalette.h>
+#include <qpointarray.h>
 
 #include <algorithm>
 
@@ -25,16 +26,20 @@ private:
     QBrush brush;
 };
 
-// One ring of a bevel: its left and upper sides, its right and lower sides. The corners on the diagonal
-// belong to the right and lower ones.
-void drawRing(QPainter* p, const QRect& r, const QColor& upperLeft, const QColor& lowerRight)
+// A bevel of so many lines on each side. All of the upper left is drawn before all of the lower right, which
+// so owns the corners on the diagonal, and whatever both reach in a panel smaller than its own lines.
+void drawBevel(QPainter* p, const QRect& r, int lines, const QColor& upperLeft, const QColor& lowerRight)
 {
     p->setPen(upperLeft);
-    p->drawLine(r.left(), r.top(), r.right() - 1, r.top());
-    p->drawLine(r.left(), r.top(), r.left(), r.bottom() - 1);
+    for (int i = 0; i < lines; ++i) {
+        p->drawLine(r.left(), r.top() + i, r.right() - 1 - i, r.top() + i);
+        p->drawLine(r.left() + i, r.top() + lines - i, r.left() + i, r.bottom() - 1);
+    }
     p->setPen(lowerRight);
-    p->drawLine(r.left(), r.bottom(), r.right(), r.bottom());
-    p->drawLine(r.right(), r.top(), r.right(), r.bottom());
+    for (int i = 0; i < lines; ++i) {
+        p->drawLine(r.left() + i, r.bottom() - i, r.right(), r.bottom() - i);
+        p->drawLine(r.right() - i, r.top() + i, r.right() - i, r.bottom() - lines);
+    }
 }
 
 QRect inside(const QRect& r, int by)
@@ -74,6 +79,20 @@ void drawThinGroove(QPainter* p, const QRect& r, const QColor& upperLeft, const 
     p->setPen(lowerRight);
     p->drawLine(r.left() + 1, r.top() + 1, r.right() - 2, r.top() + 1);
     p->drawLine(r.left() + 1, r.top() + 1, r.left() + 1, r.bottom() - 2);
+    p->drawLine(r.left(), r.bottom(), r.right(), r.bottom());
+    p->drawLine(r.right(), r.top(), r.right(), r.bottom());
+}
+
+// The upper left in one stroke, which leaves no trace in a ring without a length.
+void drawRing(QPainter* p, const QRect& r, const QColor& upperLeft, const QColor& lowerRight)
+{
+    QPointArray corner(3);
+    corner.setPoint(0, r.left(), r.bottom() - 1);
+    corner.setPoint(1, r.left(), r.top());
+    corner.setPoint(2, r.right() - 1, r.top());
+    p->setPen(upperLeft);
+    p->drawPolyline(corner);
+    p->setPen(lowerRight);
     p->drawLine(r.left(), r.bottom(), r.right(), r.bottom());
     p->drawLine(r.right(), r.top(), r.right(), r.bottom());
 }
@@ -184,8 +203,7 @@ void qDrawShadePanel(QPainter* p, int x, int y, int w, int h, const QColorGroup&
     if (fill && fill->color() == light)
         light = g.midlight();
     const QRect all(x, y, w, h);
-    for (int i = 0; i < lineWidth; ++i)
-        drawRing(p, inside(all, i), sunken ? shade : light, sunken ? light : shade);
+    drawBevel(p, all, lineWidth, sunken ? shade : light, sunken ? light : shade);
     fillInside(p, inside(all, lineWidth), fill);
 }
 

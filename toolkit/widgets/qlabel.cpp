@@ -22,6 +22,7 @@ struct LabelData : AcceleratorTarget {
     bool autoResize = false;
     bool scaled = false;
     QWidget* buddy = nullptr;
+    QSize measured; // the text, with room for 80 x; invalid: to be measured when asked for
 
     void activateAccelerator() override
     {
@@ -107,6 +108,7 @@ void QLabel::clear()
 
 void QLabel::contentsChanged()
 {
+    d->measured = QSize();
     if (d->autoResize)
         adjustSize();
     update(contentsRect());
@@ -202,6 +204,7 @@ void QLabel::acceleratorSlot()
 
 void QLabel::updateAccelerator()
 {
+    d->measured = QSize(); // whether & is shown depends on the buddy
     zeltk::removeAccelerators(d);
     const int key = zeltk::motif::shortcutOf(d->text);
     if (d->buddy && key)
@@ -238,12 +241,19 @@ QSize QLabel::sizeForWidth(int width) const
     const QSize extra(around + (sideways ? indent : 0), around + (upDown ? indent : 0));
     if (d->pixmap)
         return d->pixmap->size() + extra;
+    if (width >= 0)
+        return measureText(width - extra.width()) + extra;
+    if (!d->measured.isValid())
+        d->measured = measureText(80 * fontMetrics().width('x'));
+    return d->measured + extra;
+}
+
+// The room counts only where the text may be wrapped.
+QSize QLabel::measureText(int room) const
+{
     const bool wraps = (d->align & WordBreak) != 0;
-    const int room = !wraps ? 0 : width < 0 ? 80 * fontMetrics().width('x') : width - extra.width();
-    const QRect box =
-        fontMetrics().boundingRect(0, 0, room, wraps ? 2000 : 0,
-                                   (textFlags(this) & ~AlignHorizontal_Mask & ~AlignVertical_Mask), d->text);
-    return box.size() + extra;
+    const int flags = textFlags(this) & ~AlignHorizontal_Mask & ~AlignVertical_Mask;
+    return fontMetrics().boundingRect(0, 0, wraps ? room : 0, wraps ? 2000 : 0, flags, d->text).size();
 }
 
 QSize QLabel::sizeHint() const
@@ -268,9 +278,11 @@ void QLabel::setFont(const QFont& font)
     QFrame::setFont(font);
 }
 
+// Without a text the size hint stays what it was.
 void QLabel::fontChange(const QFont& oldFont)
 {
-    contentsChanged();
+    if (!d->text.isEmpty() || d->pixmap)
+        contentsChanged();
     QFrame::fontChange(oldFont);
 }
 
