@@ -126,8 +126,8 @@ double ZelGraph::plottedValue(int v) const
         return v;
     if (firstValue)
         return 0.0;
-    const int seconds = (int)(lastTime - prevTime);
-    return seconds ? (v - prevInput) / seconds : (v - prevInput) * 0.5;
+    const int seconds = secondsBetween(prevTime, lastTime);
+    return asDouble(seconds ? (v - prevInput) / seconds : (v - prevInput) * 0.5);
 }
 
 void ZelGraph::store(double y)
@@ -142,11 +142,13 @@ void ZelGraph::store(double y)
 }
 
 // The picture is made in the widget's coordinates and then put where the contents begin, so all of it shows a
-// frame's width further to the right and below.
+// frame's width further to the right and below. One painter puts the picture and the read-out on the screen:
+// where only a part of the widget is painted, both are limited to that part and the read-out stays whole.
 void ZelGraph::paintEvent(QPaintEvent* event)
 {
     QFrame::paintEvent(event);
     const QRect area = contentsRect();
+    QPainter screen(this);
     if (area.width() > 0 && area.height() > 0) {
         QPixmap picture(area.width(), area.height());
         QPainter painter;
@@ -156,10 +158,10 @@ void ZelGraph::paintEvent(QPaintEvent* event)
         if (history)
             drawHistory(painter, area);
         painter.end();
-        bitBlt(this, area.left(), area.top(), &picture, 0, 0, area.width(), area.height(), CopyROP);
+        screen.drawPixmap(area.topLeft(), picture);
     }
     if (modeFlags & GraphReadoutShown)
-        drawReadout(area);
+        drawReadout(screen, area);
 }
 
 void ZelGraph::drawGrid(QPainter& painter, const QRect& area) const
@@ -190,7 +192,7 @@ int ZelGraph::rowAt(int slot, const QRect& area) const
 // From the oldest sample to the newest; the slot that is written next is left out.
 void ZelGraph::drawHistory(QPainter& painter, const QRect& area) const
 {
-    QPointArray ends(2 * capacity);
+    QPointArray ends(2 * area.width());
     int lines = 0;
     int slot = writePos + 1 < capacity ? writePos + 1 : 0;
     int previous = rowAt(slot, area);
@@ -220,7 +222,8 @@ void ZelGraph::mousePressEvent(QMouseEvent* event)
         mouseX = event->x();
         mouseY = event->y();
         placeReadout(area);
-        drawReadout(area);
+        QPainter screen(this);
+        drawReadout(screen, area);
     }
     QWidget::mousePressEvent(event);
 }
@@ -230,11 +233,14 @@ void ZelGraph::mouseMoveEvent(QMouseEvent* event)
     emit mouseMove(event);
     if (modeFlags & GraphReadoutShown) {
         const QRect area = contentsRect();
-        drawReadout(area); // takes the old one away
+        QPainter screen(this);
+        drawReadout(screen, area); // takes the old one away
         mouseX = event->x();
-        mouseY = event->y() < 0 ? 0 : event->y() > area.bottom() ? area.bottom() : event->y();
+        mouseY = event->y() < 0 ? 0 : event->y();
+        if (mouseY > area.bottom())
+            mouseY = area.bottom();
         placeReadout(area);
-        drawReadout(area);
+        drawReadout(screen, area);
     }
     QWidget::mouseMoveEvent(event);
 }
@@ -244,7 +250,8 @@ void ZelGraph::mouseReleaseEvent(QMouseEvent* event)
     emit mouseRelease(event);
     if (event->button() == LeftButton && (modeFlags & GraphReadoutShown)) {
         modeFlags &= ~GraphReadoutShown;
-        drawReadout(contentsRect());
+        QPainter screen(this);
+        drawReadout(screen, contentsRect());
     }
     QWidget::mouseReleaseEvent(event);
 }
@@ -268,20 +275,18 @@ void ZelGraph::placeReadout(const QRect& area)
     const QFontMetrics metrics(font());
     const int width = metrics.width(readoutText);
     const int height = metrics.height();
-    const int above = mouseY - height / 2;
-    readoutRect = QRect(area.width() / 2 - width / 2, above > 0 ? above : 0, width, height);
-    if (readoutRect.bottom() > area.bottom()) {
-        const int top = area.bottom() - (height - 1);
-        readoutRect.moveTop(top > 0 ? top : 0);
-    }
+    const int lowest = area.bottom() - (height - 1);
+    int top = mouseY > height / 2 ? mouseY - height / 2 : 0;
+    if (top > lowest)
+        top = lowest > 0 ? lowest : 0;
+    readoutRect = QRect(area.width() / 2 - width / 2, top, width, height);
 }
 
 // Inverts; a second time, it takes away what the first time drew.
-void ZelGraph::drawReadout(const QRect& area)
+void ZelGraph::drawReadout(QPainter& screen, const QRect& area) const
 {
-    QPainter painter(this);
-    painter.setRasterOp(NotROP);
-    painter.drawText(readoutRect, AlignCenter, readoutText);
-    painter.drawLine(area.left(), mouseY, readoutRect.left(), mouseY);
-    painter.drawLine(readoutRect.right(), mouseY, area.right(), mouseY);
+    screen.setRasterOp(NotROP);
+    screen.drawText(readoutRect, AlignCenter, readoutText);
+    screen.drawLine(area.left(), mouseY, readoutRect.left(), mouseY);
+    screen.drawLine(readoutRect.right(), mouseY, area.right(), mouseY);
 }

@@ -93,7 +93,7 @@ private:
     int rowAt(int slot, const QRect& area) const;
 
     void placeReadout(const QRect& area);
-    void drawReadout(const QRect& area);
+    void drawReadout(QPainter& screen, const QRect& area) const;
 
     double minY;
     double maxY;
