@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 #include <qrangecontrol.h>
 
+#include <climits>
+
 namespace
 {
 
@@ -11,6 +13,7 @@ class Range : public QRangeControl
 {
 public:
     Range(int min, int max, int line, int page, int value) : QRangeControl(min, max, line, page, value) {}
+    using QRangeControl::prevValue;
     int position(int value, int space) const { return positionFromValue(value, space); }
     int valueAt(int pos, int space) const { return valueFromPosition(pos, space); }
 
@@ -57,6 +60,26 @@ TEST(RangeControl, DoesNotRunOverAtTheEndsOfInt)
     EXPECT_EQ(range.value(), 2147483647);
     EXPECT_EQ(range.position(2147483647, 100), 100);
     EXPECT_EQ(range.valueAt(100, 100), 2147483647);
+    EXPECT_EQ(range.position(2147483647, 2147483647), 2147483647);
+    EXPECT_EQ(range.valueAt(2147483646, 2147483647), 2147483645);
+}
+
+TEST(RangeControl, StartsWithAPreviousValueBelowItsRange)
+{
+    EXPECT_EQ(Range(3, 9, 1, 1, 5).prevValue(), 2);
+    EXPECT_EQ(Range(INT_MIN, INT_MAX, 1, 1, 0).prevValue(), INT_MAX);
+}
+
+TEST(RangeControl, TakesStepsOfAnySize)
+{
+    Range range(INT_MIN, INT_MAX, INT_MIN, INT_MIN, -5);
+    EXPECT_EQ(range.lineStep(), INT_MAX);
+    EXPECT_EQ(range.pageStep(), INT_MAX);
+    range.addPage();
+    EXPECT_EQ(range.value(), INT_MAX - 5);
+    range.setSteps(-3, INT_MIN);
+    EXPECT_EQ(range.lineStep(), 3);
+    EXPECT_EQ(range.pageStep(), INT_MAX);
 }
 
 TEST(RangeControl, TellsOnlyOfChanges)

@@ -1,6 +1,7 @@
 // QRangeControl.
 #include <qrangecontrol.h>
 
+#include <climits>
 #include <cstdlib>
 
 namespace
@@ -14,10 +15,21 @@ int limited(long long value, int minValue, int maxValue)
     return value > maxValue ? maxValue : static_cast<int>(value);
 }
 
-// a * b / c to the nearest whole number; none of them is negative.
-int scaled(long long a, long long b, long long c)
+// a * b / c to the nearest whole number. One of a and b and also c may have 32 bits, the other one 31.
+long long scaled(unsigned long long a, unsigned long long b, unsigned long long c)
 {
-    return static_cast<int>((2 * a * b + c) / (2 * c));
+    return static_cast<long long>((2 * a * b + c) / (2 * c));
+}
+
+// Below the smallest number comes the largest.
+int oneBelow(int value)
+{
+    return static_cast<int>(static_cast<unsigned>(value) - 1U);
+}
+
+int magnitude(int step)
+{
+    return std::abs(step < -INT_MAX ? -INT_MAX : step);
 }
 
 } // namespace
@@ -25,8 +37,8 @@ int scaled(long long a, long long b, long long c)
 QRangeControl::QRangeControl() : minVal(0), maxVal(99), line(1), page(10), val(0), prevVal(-1) {}
 
 QRangeControl::QRangeControl(int minValue, int maxValue, int lineStep, int pageStep, int value)
-    : minVal(minValue), maxVal(maxValue < minValue ? minValue : maxValue), line(std::abs(lineStep)),
-      page(std::abs(pageStep)), val(limited(value, minVal, maxVal)), prevVal(minValue - 1)
+    : minVal(minValue), maxVal(maxValue < minValue ? minValue : maxValue), line(magnitude(lineStep)),
+      page(magnitude(pageStep)), val(limited(value, minVal, maxVal)), prevVal(oneBelow(minValue))
 {
 }
 
@@ -100,8 +112,8 @@ void QRangeControl::setSteps(int lineStep, int pageStep)
 {
     if (lineStep == line && pageStep == page)
         return;
-    line = std::abs(lineStep);
-    page = std::abs(pageStep);
+    line = magnitude(lineStep);
+    page = magnitude(pageStep);
     stepChange();
 }
 
@@ -112,7 +124,9 @@ int QRangeControl::positionFromValue(int value, int space) const
         return 0;
     if (value > maxVal)
         return space;
-    return scaled(static_cast<long long>(value) - minVal, space, range);
+    const long long above = static_cast<long long>(value) - minVal;
+    return static_cast<int>(scaled(static_cast<unsigned long long>(above), static_cast<unsigned>(space),
+                                   static_cast<unsigned long long>(range)));
 }
 
 int QRangeControl::valueFromPosition(int pos, int space) const
@@ -122,7 +136,9 @@ int QRangeControl::valueFromPosition(int pos, int space) const
     if (pos >= space)
         return maxVal;
     const long long range = static_cast<long long>(maxVal) - minVal;
-    return static_cast<int>(minVal + (2LL * pos * range + space) / (2LL * space));
+    return static_cast<int>(minVal + scaled(static_cast<unsigned>(pos),
+                                            static_cast<unsigned long long>(range),
+                                            static_cast<unsigned>(space)));
 }
 
 void QRangeControl::valueChange() {}
