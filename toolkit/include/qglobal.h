@@ -48,6 +48,7 @@ typedef Q_UINT64 Q_ULLONG;
 //! Rounds to the nearest integer; a half goes up.
 inline int qRound(double value)
 {
+    // lround() would round a negative half down. NOLINTNEXTLINE(bugprone-incorrect-roundings)
     return value >= 0.0 ? int(value + 0.5) : int(value - double(int(value - 1)) + 0.5) + int(value - 1);
 }
 

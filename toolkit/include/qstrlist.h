@@ -10,6 +10,7 @@ class Q_EXPORT QStrList : public QPtrList<char>
 {
 public:
     QStrList(bool deepCopies = true) : deep(deepCopies) { setAutoDelete(deep); }
+    // What the copy owns are texts of its own. NOLINTNEXTLINE(bugprone-copy-constructor-init)
     QStrList(const QStrList& other) : QPtrList<char>(), deep(false) { *this = other; }
     ~QStrList() { clear(); }
     QStrList& operator=(const QStrList& other);

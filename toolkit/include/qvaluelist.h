@@ -4,6 +4,7 @@
 
 #include <qglobal.h>
 
+#include <algorithm>
 #include <list>
 
 //! A list of copies of values. Iterators and references stay valid until their element is removed; a change
@@ -36,9 +37,8 @@ public:
     ~QValueList() { release(); }
     QValueList<T>& operator=(const QValueList<T>& other)
     {
-        ++other.d->references;
-        release();
-        d = other.d;
+        QValueList<T> copy(other);
+        std::swap(d, copy.d);
         return *this;
     }
 

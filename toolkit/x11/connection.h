@@ -5,7 +5,7 @@
 
 #include <string>
 
-struct _XDisplay;
+struct _XDisplay; // Xlib's own name. NOLINT(bugprone-reserved-identifier)
 
 namespace zeltk
 {
