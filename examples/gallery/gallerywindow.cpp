@@ -63,3 +63,8 @@ void GalleryWindow::finish()
     const QRect screen = QApplication::desktop()->geometry();
     move((screen.width() - width()) / 2, std::max((screen.height() - height()) / 2, 0));
 }
+
+void GalleryWindow::tellChoice(const QString& what)
+{
+    m_status->setText("Chosen: " + what);
+}

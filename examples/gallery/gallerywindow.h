@@ -43,6 +43,10 @@ public:
 
     const std::vector<QWidget*>& tourStops() const { return m_stops; }
 
+public slots:
+    // Says on the status line what was chosen in a dialog.
+    void tellChoice(const QString& what);
+
 private:
     QLabel* m_status;
     std::vector<QWidget*> m_stops;

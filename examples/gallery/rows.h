@@ -14,10 +14,11 @@ void addPushButtonRow(GalleryWindow& gallery);
 void addFrameRow(GalleryWindow& gallery);
 void addFieldRow(GalleryWindow& gallery);
 void addGraphRow(GalleryWindow& gallery);
+void addDialogRow(GalleryWindow& gallery);
 
 const AddRow galleryRows[] = {
-    addActiveLabelRow, addActiveLabel2Row, addLabelRow, addColorButtonRow,
-    addPushButtonRow,  addFrameRow,        addFieldRow, addGraphRow,
+    addActiveLabelRow, addActiveLabel2Row, addLabelRow, addColorButtonRow, addPushButtonRow,
+    addFrameRow,       addFieldRow,        addGraphRow, addDialogRow,
 };
 
 #endif

@@ -83,8 +83,10 @@ void Tour::nextStep()
     m_acted = false;
     m_failed = !takePicture(step);
     ++m_next;
-    if (m_failed || m_next == m_steps.size())
+    if (m_failed || m_next == m_steps.size()) {
+        m_timer.stop();
         qApp->quit();
+    }
 }
 
 void Tour::act(const Step& step)
@@ -107,18 +109,24 @@ void Tour::act(const Step& step)
     XSync(m_display, False);
 }
 
+// A dialog that the step has opened is pictured in the place of the gallery, and closed.
 bool Tour::takePicture(const Step& step)
 {
-    const std::string path = m_folder + "/" + step.picture + ".png";
-    const WId window = m_gallery.winId();
+    std::string name = step.picture;
     QPixmap picture;
-    if (m_view == Window) {
-        picture = QPixmap::grabWindow(window);
+    if (QWidget* const dialog = QApplication::activeModalWidget()) {
+        name = fileName(dialog->className()) + "-" + fileName(dialog->name()) + "-shown";
+        picture = QPixmap::grabWindow(dialog->winId());
+        dialog->close();
+    } else if (m_view == Window) {
+        picture = QPixmap::grabWindow(m_gallery.winId());
     } else {
         const QPoint corner = step.widget->mapTo(&m_gallery, QPoint(-closeMargin, -closeMargin));
-        picture = QPixmap::grabWindow(window, corner.x(), corner.y(), step.widget->width() + 2 * closeMargin,
+        picture = QPixmap::grabWindow(m_gallery.winId(), corner.x(), corner.y(),
+                                      step.widget->width() + 2 * closeMargin,
                                       step.widget->height() + 2 * closeMargin);
     }
+    const std::string path = m_folder + "/" + name + ".png";
     if (!picture.save(path.c_str(), "PNG")) {
         std::fprintf(stderr, "zelkit-gallery: cannot write %s\n", path.c_str());
         return false;
