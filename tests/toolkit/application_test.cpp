@@ -1,11 +1,17 @@
 // The application and what it keeps.
 #include "signalrecorder.h"
 #include "waiting.h"
+#include "xinput.h"
 
 #include <gtest/gtest.h>
 #include <qapplication.h>
 #include <qcursor.h>
+#include <qlabel.h>
+#include <qobjectlist.h>
+#include <qtimer.h>
 #include <qwidgetlist.h>
+
+#include <X11/keysym.h>
 
 #include <memory>
 
@@ -23,6 +29,28 @@ public:
         return takes;
     }
     bool takes = false;
+};
+
+// Looks at the window of aboutQt() as soon as it is up, and closes it with Return.
+class Reader : public QObject
+{
+public:
+    Reader() { startTimer(20); }
+    QString read;
+
+protected:
+    void timerEvent(QTimerEvent*) override
+    {
+        QWidget* window = QApplication::activeModalWidget();
+        if (!window || !xinput::isViewable(window->winId()))
+            return;
+        killTimers();
+        window->setActiveWindow();
+        waitFor([window] { return window->isActiveWindow(); });
+        const std::unique_ptr<QObjectList> labels(window->queryList("QLabel"));
+        read = static_cast<QLabel*>(labels->first())->text();
+        xinput::typeKey(XK_Return);
+    }
 };
 
 bool listed(QWidgetList* list, QWidget* widget)
@@ -161,4 +189,26 @@ TEST(Application, KnowsItsFile)
     EXPECT_EQ(QApplication::GuiClient, qApp->type());
     EXPECT_FALSE(QApplication::startingUp());
     EXPECT_FALSE(QApplication::closingDown());
+}
+
+TEST(Application, TellsOfItsToolkit)
+{
+    Reader reader;
+    qApp->aboutQt();
+    EXPECT_TRUE(reader.read.contains(qVersion())) << reader.read.latin1();
+    EXPECT_EQ(nullptr, QApplication::activeModalWidget());
+}
+
+TEST(Application, TellsThatItHasWaited)
+{
+    SignalRecorder recorder;
+    recorder.watch(qApp, SIGNAL(guiThreadAwake()), "awake");
+    QTimer timer;
+    timer.start(1, true);
+    EXPECT_TRUE(waitFor([&] { return !timer.isActive(); }));
+    recorder.take();
+    timer.start(1, true);
+    while (timer.isActive())
+        qApp->processOneEvent();
+    EXPECT_LE(1, recorder.count());
 }

@@ -5,12 +5,10 @@
 #include <qfontmetrics.h>
 #include <qlabel.h>
 #include <qlineedit.h>
+#include <qpainter.h>
 #include <qvalidator.h>
 
 #include <algorithm>
-
-namespace zeltk
-{
 
 namespace
 {
@@ -36,10 +34,25 @@ const struct {
 
 } // namespace
 
-ColorFields::ColorFields(QWidget* parent) : QWidget(parent, "qt_colorshower")
+QColorShowLabel::QColorShowLabel(QWidget* parent) : QFrame(parent, "qt_colorshow_lbl")
 {
-    sample = new QFrame(this, "qt_colorshow_lbl");
-    sample->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+    setFrameStyle(Panel | Sunken);
+}
+
+void QColorShowLabel::setColor(const QColor& color)
+{
+    shown = color;
+    update();
+}
+
+void QColorShowLabel::drawContents(QPainter* p)
+{
+    p->fillRect(contentsRect(), shown);
+}
+
+QColorShower::QColorShower(QWidget* parent) : QWidget(parent, "qt_colorshower")
+{
+    sample = new QColorShowLabel(this);
     for (int i = 0; i < FieldCount; ++i) {
         QLineEdit* edit = new QLineEdit(this, descriptions[i].name);
         edit->setMaxLength(3);
@@ -59,7 +72,7 @@ ColorFields::ColorFields(QWidget* parent) : QWidget(parent, "qt_colorshower")
 }
 
 // Two columns, and the alpha channel below them; its distance from them is kept even while it is hidden.
-void ColorFields::place()
+void QColorShower::place()
 {
     const int height = edits[Hue]->sizeHint().height();
     const int editWidth = fontMetrics().width("999") + 4;
@@ -87,39 +100,39 @@ void ColorFields::place()
     edits[Alpha]->setGeometry(right - editWidth, y, editWidth, height);
 }
 
-QSize ColorFields::sizeHint() const
+QSize QColorShower::sizeHint() const
 {
     return size;
 }
 
-int ColorFields::number(Field field) const
+int QColorShower::number(Field field) const
 {
     return edits[field]->text().toInt();
 }
 
-void ColorFields::write(Field field, int number)
+void QColorShower::write(Field field, int number)
 {
     writing = true;
     edits[field]->setText(QString::number(number));
     writing = false;
 }
 
-void ColorFields::writeHsv()
+void QColorShower::writeHsv()
 {
     write(Hue, h);
     write(Saturation, s);
     write(Value, v);
 }
 
-void ColorFields::writeRgb()
+void QColorShower::writeRgb()
 {
     write(Red, current.red());
     write(Green, current.green());
     write(Blue, current.blue());
-    sample->setPaletteBackgroundColor(current);
+    sample->setColor(current);
 }
 
-void ColorFields::setColor(const QColor& color)
+void QColorShower::setColor(const QColor& color)
 {
     current = color;
     current.hsv(&h, &s, &v);
@@ -127,7 +140,7 @@ void ColorFields::setColor(const QColor& color)
     writeRgb();
 }
 
-void ColorFields::setHsv(int hue, int saturation, int value)
+void QColorShower::setHsv(int hue, int saturation, int value)
 {
     h = hue;
     s = saturation;
@@ -137,7 +150,7 @@ void ColorFields::setHsv(int hue, int saturation, int value)
     writeRgb();
 }
 
-void ColorFields::hsvTyped()
+void QColorShower::hsvTyped()
 {
     if (writing)
         return;
@@ -150,24 +163,24 @@ void ColorFields::hsvTyped()
         onTyped();
 }
 
-void ColorFields::rgbTyped()
+void QColorShower::rgbTyped()
 {
     if (writing)
         return;
     current = QColor(number(Red), number(Green), number(Blue));
     current.hsv(&h, &s, &v);
     writeHsv();
-    sample->setPaletteBackgroundColor(current);
+    sample->setColor(current);
     if (onTyped)
         onTyped();
 }
 
-int ColorFields::alpha() const
+int QColorShower::alpha() const
 {
     return number(Alpha);
 }
 
-void ColorFields::showAlpha(int alpha)
+void QColorShower::showAlpha(int alpha)
 {
     withAlpha = true;
     write(Alpha, alpha);
@@ -175,5 +188,3 @@ void ColorFields::showAlpha(int alpha)
     edits[Alpha]->show();
     place();
 }
-
-} // namespace zeltk

@@ -3,22 +3,34 @@
 #define ZELTK_COLORFIELDS_H
 
 #include <qcolor.h>
-#include <qwidget.h>
+#include <qframe.h>
 
 #include <functional>
 
-class QFrame;
 class QLineEdit;
 
-namespace zeltk
-{
-
-class ColorFields : public QWidget
+// A sunken field of one colour.
+class QColorShowLabel : public QFrame
 {
     Q_OBJECT
 
 public:
-    explicit ColorFields(QWidget* parent);
+    explicit QColorShowLabel(QWidget* parent);
+    void setColor(const QColor& color);
+
+protected:
+    void drawContents(QPainter* p) override;
+
+private:
+    QColor shown;
+};
+
+class QColorShower : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit QColorShower(QWidget* parent);
 
     std::function<void()> onTyped;
     int hue() const { return h; }
@@ -43,7 +55,7 @@ private:
     void writeRgb();
     void place();
 
-    QFrame* sample;
+    QColorShowLabel* sample;
     QLineEdit* edits[FieldCount];
     QWidget* labels[FieldCount];
     int h = 0, s = 0, v = 0;
@@ -52,7 +64,5 @@ private:
     bool withAlpha = false;
     QSize size;
 };
-
-} // namespace zeltk
 
 #endif

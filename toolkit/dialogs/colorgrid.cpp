@@ -5,9 +5,6 @@
 #include <qevent.h>
 #include <qpainter.h>
 
-namespace zeltk
-{
-
 namespace
 {
 
@@ -22,48 +19,52 @@ QRect inside(const QRect& r, int by)
 
 } // namespace
 
-ColorGrid::ColorGrid(int rows, int columns, const std::vector<QRgb>* c, QWidget* parent)
-    : QWidget(parent, ""), rowCount(rows), columnCount(columns), colors(c)
+QWellArray::QWellArray(int rows, int columns, const std::vector<QRgb>* c, QWidget* parent)
+    : QScrollView(parent, ""), rowCount(rows), columnCount(columns), colors(c)
 {
+    setFrameStyle(NoFrame);
+    setHScrollBarMode(AlwaysOff);
+    setVScrollBarMode(AlwaysOff);
+    viewport()->setBackgroundMode(PaletteBackground);
+    viewport()->setFocusProxy(this);
     setFocusPolicy(StrongFocus);
 }
 
-QSize ColorGrid::sizeHint() const
+QSize QWellArray::sizeHint() const
 {
     return QSize(columnCount * cellWidth, rowCount * cellHeight);
 }
 
-QRect ColorGrid::cell(int index) const
+QRect QWellArray::cell(int index) const
 {
     return QRect(index / rowCount * cellWidth, index % rowCount * cellHeight, cellWidth, cellHeight);
 }
 
-void ColorGrid::choose(int index)
+void QWellArray::choose(int index)
 {
     selected = index;
     if (index >= 0)
         current = index;
-    update();
+    updateContents();
 }
 
-void ColorGrid::chooseByHand(int index)
+void QWellArray::chooseByHand(int index)
 {
     choose(index);
     if (onChosen)
         onChosen(index);
 }
 
-void ColorGrid::paintEvent(QPaintEvent* event)
+void QWellArray::drawContents(QPainter* p, int x, int y, int w, int h)
 {
-    QPainter p(this);
     for (int index = 0; index < rowCount * columnCount; ++index) {
-        if (event->region().contains(cell(index)))
-            drawWell(&p, index);
+        if (cell(index).intersects(QRect(x, y, w, h)))
+            drawWell(p, index);
     }
 }
 
 // The chosen colour lies smaller in its well.
-void ColorGrid::drawWell(QPainter* p, int index)
+void QWellArray::drawWell(QPainter* p, int index)
 {
     const QRect well = inside(cell(index), wellDistance);
     const QBrush face(colorGroup().background());
@@ -75,7 +76,7 @@ void ColorGrid::drawWell(QPainter* p, int index)
     }
 }
 
-void ColorGrid::mousePressEvent(QMouseEvent* event)
+void QWellArray::contentsMousePressEvent(QMouseEvent* event)
 {
     for (int index = 0; index < rowCount * columnCount; ++index) {
         if (cell(index).contains(event->pos())) {
@@ -85,7 +86,17 @@ void ColorGrid::mousePressEvent(QMouseEvent* event)
     }
 }
 
-void ColorGrid::keyPressEvent(QKeyEvent* event)
+void QWellArray::focusInEvent(QFocusEvent*)
+{
+    updateContents();
+}
+
+void QWellArray::focusOutEvent(QFocusEvent*)
+{
+    updateContents();
+}
+
+void QWellArray::keyPressEvent(QKeyEvent* event)
 {
     const int row = current % rowCount;
     const int column = current / rowCount;
@@ -111,7 +122,5 @@ void ColorGrid::keyPressEvent(QKeyEvent* event)
         return;
     }
     current = next;
-    update();
+    updateContents();
 }
-
-} // namespace zeltk

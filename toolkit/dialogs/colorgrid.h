@@ -3,20 +3,20 @@
 #define ZELTK_COLORGRID_H
 
 #include <qcolor.h>
-#include <qwidget.h>
+#include <qscrollview.h>
 
 #include <functional>
 #include <vector>
 
-namespace zeltk
+// Counted down the columns. As everywhere in this dialog, the class has the name that Qt 3 shows through
+// className().
+class QWellArray : public QScrollView
 {
+    Q_OBJECT
 
-// Counted down the columns.
-class ColorGrid : public QWidget
-{
 public:
-    // The colours stay the caller's, who calls update() when they change.
-    ColorGrid(int rows, int columns, const std::vector<QRgb>* colors, QWidget* parent);
+    // The colours stay the caller's, who calls updateContents() when they change.
+    QWellArray(int rows, int columns, const std::vector<QRgb>* colors, QWidget* parent);
 
     std::function<void(int)> onChosen;
     int chosen() const { return selected; }
@@ -24,9 +24,11 @@ public:
     QSize sizeHint() const override;
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
+    void drawContents(QPainter* p, int x, int y, int w, int h) override;
+    void contentsMousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     QRect cell(int index) const;
@@ -38,7 +40,5 @@ private:
     int current = 0; // where the keyboard is
     int selected = -1;
 };
-
-} // namespace zeltk
 
 #endif

@@ -51,17 +51,17 @@ std::vector<QRgb>& customColors()
 
 ColorPanel::ColorPanel(QColorDialog* d) : QObject(d), dialog(d)
 {
-    standard = new ColorGrid(standardRows, columns, &standardColors(), dialog);
+    standard = new QWellArray(standardRows, columns, &standardColors(), dialog);
     standardLabel = new QLabel(standard, QColorDialog::tr("&Basic colors"), dialog, "qt_basiccolors_lbl");
-    custom = new ColorGrid(customRows, columns, &customColors(), dialog);
+    custom = new QWellArray(customRows, columns, &customColors(), dialog);
     customLabel = new QLabel(custom, QColorDialog::tr("&Custom colors"), dialog, "qt_custcolors_lbl");
     define = new QPushButton(QColorDialog::tr("&Define Custom Colors >>"), dialog, "qt_def_custcolors_lbl");
     define->setEnabled(false); // all is shown already
-    huePicker = new HuePicker(dialog);
+    huePicker = new QColorPicker(dialog);
     huePicker->setName("qt_colorpicker");
-    valuePicker = new ValuePicker(dialog);
+    valuePicker = new QColorLuminancePicker(dialog);
     valuePicker->setName("qt_luminance_picker");
-    fields = new ColorFields(dialog);
+    fields = new QColorShower(dialog);
     ok = new QPushButton(QColorDialog::tr("OK"), dialog, "qt_ok_btn");
     ok->setDefault(true);
     cancel = new QPushButton(QColorDialog::tr("Cancel"), dialog, "qt_cancel_btn");
@@ -139,7 +139,7 @@ void ColorPanel::addCustom()
 {
     customColors()[static_cast<size_t>(nextCustom)] = color().rgb();
     nextCustom = (nextCustom + 1) % static_cast<int>(customColors().size());
-    custom->update();
+    custom->updateContents();
 }
 
 int ColorPanel::alpha() const

@@ -40,12 +40,12 @@ private:
     void place();
 
     QColorDialog* dialog;
-    ColorGrid *standard, *custom;
+    QWellArray *standard, *custom;
     QLabel *standardLabel, *customLabel;
     QPushButton *define, *ok, *cancel, *add;
-    HuePicker* huePicker;
-    ValuePicker* valuePicker;
-    ColorFields* fields;
+    QColorPicker* huePicker;
+    QColorLuminancePicker* valuePicker;
+    QColorShower* fields;
     QSize needed;
     int nextCustom = 0;
     bool withAlpha = false;

@@ -9,9 +9,6 @@
 
 #include <algorithm>
 
-namespace zeltk
-{
-
 namespace
 {
 
@@ -49,30 +46,30 @@ QImage makeRainbow()
 
 } // namespace
 
-HuePicker::HuePicker(QWidget* parent) : QFrame(parent)
+QColorPicker::QColorPicker(QWidget* parent) : QFrame(parent)
 {
     setFrameStyle(Panel | Sunken);
     rainbow.convertFromImage(makeRainbow());
 }
 
-QSize HuePicker::sizeHint() const
+QSize QColorPicker::sizeHint() const
 {
     return QSize(side + 2 * frameWidth(), side + 2 * frameWidth());
 }
 
-QPoint HuePicker::place() const
+QPoint QColorPicker::place() const
 {
     return QPoint((360 - hue) * last / 360, (255 - saturation) * last / 255);
 }
 
-void HuePicker::show(int h, int s)
+void QColorPicker::show(int h, int s)
 {
     hue = h;
     saturation = s;
     update(contentsRect());
 }
 
-void HuePicker::drawContents(QPainter* p)
+void QColorPicker::drawContents(QPainter* p)
 {
     const QPoint origin = contentsRect().topLeft();
     const QPoint mark = origin + place();
@@ -81,7 +78,7 @@ void HuePicker::drawContents(QPainter* p)
     p->fillRect(mark.x(), mark.y() - 9, 2, 20, Qt::black);
 }
 
-void HuePicker::mousePressEvent(QMouseEvent* event)
+void QColorPicker::mousePressEvent(QMouseEvent* event)
 {
     const QPoint p = event->pos() - contentsRect().topLeft();
     show(hueAt(bounded(p.x())), valueAt(bounded(p.y())));
@@ -89,7 +86,7 @@ void HuePicker::mousePressEvent(QMouseEvent* event)
         onPicked(hue, saturation);
 }
 
-void HuePicker::mouseMoveEvent(QMouseEvent* event)
+void QColorPicker::mouseMoveEvent(QMouseEvent* event)
 {
     if (event->state() & LeftButton)
         mousePressEvent(event);
@@ -97,14 +94,14 @@ void HuePicker::mouseMoveEvent(QMouseEvent* event)
         event->ignore();
 }
 
-ValuePicker::ValuePicker(QWidget* parent) : QWidget(parent) {}
+QColorLuminancePicker::QColorLuminancePicker(QWidget* parent) : QWidget(parent) {}
 
-QSize ValuePicker::sizeHint() const
+QSize QColorLuminancePicker::sizeHint() const
 {
     return QSize(stripWidth + arrow, side + 2 + 2 * arrowRoom);
 }
 
-void ValuePicker::show(int h, int s, int v)
+void QColorLuminancePicker::show(int h, int s, int v)
 {
     hue = h;
     saturation = s;
@@ -112,7 +109,7 @@ void ValuePicker::show(int h, int s, int v)
     update();
 }
 
-void ValuePicker::paintEvent(QPaintEvent*)
+void QColorLuminancePicker::paintEvent(QPaintEvent*)
 {
     QPainter p(this);
     const int top = arrowRoom + 1;
@@ -127,19 +124,17 @@ void ValuePicker::paintEvent(QPaintEvent*)
         p.drawLine(stripWidth + i, tip - i, stripWidth + i, tip + i);
 }
 
-void ValuePicker::mousePressEvent(QMouseEvent* event)
+void QColorLuminancePicker::mousePressEvent(QMouseEvent* event)
 {
     show(hue, saturation, valueAt(bounded(event->y() - arrowRoom - 1)));
     if (onPicked)
         onPicked(value);
 }
 
-void ValuePicker::mouseMoveEvent(QMouseEvent* event)
+void QColorLuminancePicker::mouseMoveEvent(QMouseEvent* event)
 {
     if (event->state() & LeftButton)
         mousePressEvent(event);
     else
         event->ignore();
 }
-
-} // namespace zeltk

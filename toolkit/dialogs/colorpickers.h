@@ -7,14 +7,13 @@
 
 #include <functional>
 
-namespace zeltk
-{
-
 // Hues from the left to the right, and paler downwards.
-class HuePicker : public QFrame
+class QColorPicker : public QFrame
 {
+    Q_OBJECT
+
 public:
-    explicit HuePicker(QWidget* parent);
+    explicit QColorPicker(QWidget* parent);
 
     std::function<void(int hue, int saturation)> onPicked;
     void show(int hue, int saturation); // moves the mark
@@ -34,10 +33,12 @@ private:
 };
 
 // Dark below, bright above.
-class ValuePicker : public QWidget
+class QColorLuminancePicker : public QWidget
 {
+    Q_OBJECT
+
 public:
-    explicit ValuePicker(QWidget* parent);
+    explicit QColorLuminancePicker(QWidget* parent);
 
     std::function<void(int value)> onPicked;
     void show(int hue, int saturation, int value);
@@ -53,7 +54,5 @@ private:
     int saturation = 0;
     int value = 0;
 };
-
-} // namespace zeltk
 
 #endif

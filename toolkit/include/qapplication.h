@@ -131,10 +131,14 @@ public:
 signals:
     void lastWindowClosed();
     void aboutToQuit();
+    //! The event loop goes on after it has waited.
+    void guiThreadAwake();
 
 public slots:
     void quit();
     void closeAllWindows();
+    //! Shows a small window about the toolkit, and returns when it is closed.
+    void aboutQt();
 
 protected:
     bool event(QEvent* event);

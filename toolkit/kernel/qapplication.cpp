@@ -116,6 +116,7 @@ void QApplication::construct(int& argc, char** argv, Type type)
     app->closing = false;
     qApp = this;
     app->loop = new QEventLoop(this, "eventloop");
+    connect(app->loop, SIGNAL(awake()), this, SIGNAL(guiThreadAwake()));
     if (type != Tty)
         app->desktop = new QDesktopWidget;
 }

@@ -196,8 +196,7 @@ void QScrollView::updateScrollBars()
         d->vertical->setGeometry(w, 0, extent, h);
     if (horizontal)
         d->horizontal->setGeometry(0, h, w, extent);
-    if (isVisible())
-        d->corner->setGeometry(width() - extent, height() - extent, extent, extent);
+    d->corner->setGeometry(width() - extent, height() - extent, extent, extent);
     d->corner->setShown(vertical && horizontal);
     adjustBar(d->vertical, vertical, d->height, inside.height(), inside.height());
     adjustBar(d->horizontal, horizontal, d->width, inside.width(), inside.width());
