@@ -39,15 +39,25 @@ public:
     const QColorGroup& getColorGroup();
 
 protected slots:
+    //! Lets the user choose the colour of foreground and text if \a event is of the left button.
     void foregroundColorClick(QMouseEvent* event);
+    //! Lets the user choose the colour of background if \a event is of the left button.
     void backgroundColorClick(QMouseEvent* event);
+    //! Lets the user choose the colour of light if \a event is of the left button.
     void lightColorClick(QMouseEvent* event);
+    //! Lets the user choose the colour of dark if \a event is of the left button.
     void darkColorClick(QMouseEvent* event);
+    //! Lets the user choose the colour of mid if \a event is of the left button.
     void midColorClick(QMouseEvent* event);
+    //! Lets the user choose the colour of foreground and text if \a event is of the left button.
     void textColorClick(QMouseEvent* event);
+    //! Lets the user choose the colour of base if \a event is of the left button.
     void baseColorClick(QMouseEvent* event);
+    //! Lets the user choose the colour of shadow if \a event is of the left button.
     void shadowColorClick(QMouseEvent* event);
+    //! Lets the user choose the colour of highlight if \a event is of the left button.
     void highlightColorClick(QMouseEvent* event);
+    //! Lets the user choose the colour of highlighted text if \a event is of the left button.
     void highlightedTextColorClick(QMouseEvent* event);
 
 private:

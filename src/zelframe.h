@@ -23,16 +23,22 @@ public:
     ~ZelFrame();
 
 signals:
+    //! A button went down on the frame.
     void mousePress(QMouseEvent* event);
+    //! A button that went down on the frame was let go.
     void mouseRelease(QMouseEvent* event);
-    //! A mousePress() follows for the same event.
+    //! A button went down on the frame twice. A mousePress() follows for the same event.
     void mouseDoubleClick(QMouseEvent* event);
+    //! The pointer moved while a button was held, or at any time with mouse tracking.
     void mouseMove(QMouseEvent* event);
 
-    //! \a frame is the sender.
+    //! Follows mousePress(); \a frame is the sender.
     void mousePressEx(QMouseEvent* event, ZelFrame* frame);
+    //! Follows mouseRelease(); \a frame is the sender.
     void mouseReleaseEx(QMouseEvent* event, ZelFrame* frame);
+    //! Follows mouseDoubleClick(); \a frame is the sender.
     void mouseDoubleClickEx(QMouseEvent* event, ZelFrame* frame);
+    //! Follows mouseMove(); \a frame is the sender.
     void mouseMoveEx(QMouseEvent* event, ZelFrame* frame);
 
 protected:

@@ -50,9 +50,10 @@ public:
                             bool autoRange, const QColor& background, const QColor& graph,
                             const QColor& grid);
 
-    //! Sets one end of the range, as setGraphParameters() does, and repaints. Does nothing while the range is
-    //! automatic or if the value is the same.
+    //! Sets the upper end of the range, as setGraphParameters() does, and repaints. Does nothing while the
+    //! range is automatic or if the value is the same.
     void setMaxY(int y);
+    //! Sets the lower end of the range, with the same rules.
     void setMinY(int y);
 
     //! Sets all stored samples to the minimum and repaints; how many there are stays.
@@ -63,12 +64,16 @@ public slots:
     void setValue(int v);
 
 signals:
-    //! Emitted first thing; the event is valid during the emission.
+    //! A button went down on the graph. This and the other four are emitted before the graph handles the
+    //! event, which is valid during the emission.
     void mousePress(QMouseEvent* event);
+    //! A button that went down on the graph was let go.
     void mouseRelease(QMouseEvent* event);
-    //! A mousePress() follows for the same event.
+    //! A button went down on the graph twice. A mousePress() follows for the same event.
     void mouseDoubleClick(QMouseEvent* event);
+    //! The pointer moved while a button was held, or at any time with mouse tracking.
     void mouseMove(QMouseEvent* event);
+    //! A key was pressed while the graph had the focus.
     void keyPress(QKeyEvent* event);
 
 protected:

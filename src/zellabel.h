@@ -36,12 +36,14 @@ public:
     bool isOn() const { return on; }
 
 signals:
-    //! Each of the four mouse events of the label, emitted first thing. The event is valid during the
-    //! emission.
+    //! A button went down on the label. This and the other three are emitted before the label handles the
+    //! event, which is valid during the emission.
     void mousePress(QMouseEvent* event);
+    //! A button that went down on the label was let go.
     void mouseRelease(QMouseEvent* event);
-    //! A mousePress() follows for the same event.
+    //! A button went down on the label twice. A mousePress() follows for the same event.
     void mouseDoubleClick(QMouseEvent* event);
+    //! The pointer moved while a button was held, or at any time with mouse tracking.
     void mouseMove(QMouseEvent* event);
 
     //! The left button was released inside \a label, which is the sender, or setOn() was called.
