@@ -4,7 +4,6 @@
 
 using zeltk::isPaletteMode;
 using zeltk::WidgetData;
-namespace x11 = zeltk::x11;
 
 namespace
 {

@@ -251,7 +251,7 @@ void QWidget::reparent(QWidget* parent, WFlags f, const QPoint& pos, bool showIt
     if (parent)
         parent->insertChild(this);
     zeltk::rehangWindow(this, f);
-    if (isTopLevel() || w->selfHidden || parent->isVisible())
+    if (!parent || isTopLevel() || w->selfHidden || parent->isVisible())
         setWState(WState_ForceHide);
     else
         clearWState(WState_ForceHide);

@@ -193,7 +193,9 @@ private:
                 continue;
             }
             const bool continued = at().is("::") || (!name.empty() && name.back() == ':');
-            name = continued ? name + at().text : at().text;
+            if (!continued)
+                name.clear();
+            name += at().text;
             next();
         }
         if (!at().is(":") && !at().is("{")) {
