@@ -70,7 +70,7 @@ public:
     void setValue(int value)
     {
         const std::time_t now = std::time(nullptr);
-        double y = m_rate ? change(value, static_cast<int>(now - m_before)) : value;
+        double y = m_rate ? change(value, static_cast<int>(static_cast<long long>(now) - m_before)) : value;
         m_before = now;
         m_previous = value;
         if (m_automatic) {

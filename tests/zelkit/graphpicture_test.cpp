@@ -1,19 +1,9 @@
-// ZelGraph: what it shows for the samples it gets, and the read-out.
-#include <zelgraph.h>
-
-#include "faketime.h"
-#include "pixels.h"
-#include "sentevents.h"
-#include "signalrecorder.h"
-#include "waiting.h"
-#include "xinput.h"
+// ZelGraph: the picture that it makes of its samples.
+#include "graphpair.h"
 
 #include <gtest/gtest.h>
-#include <qpainter.h>
-#include <qpixmap.h>
 
 #include <climits>
-#include <vector>
 
 namespace
 {
@@ -22,324 +12,268 @@ const unsigned ground = 0x000000;
 const unsigned gridGreen = 0x009600;
 const unsigned curveBlue = 0x0000dc;
 
-// The picture that a history makes, painted pixel by pixel. Values count in rows from the bottom.
-struct Model {
-    int width; // of the contents
-    int height;
-    int frame;
-    int gridCount;
-    int gridStep;
-    bool bars;
-    std::vector<int> rows; // of the samples, the oldest first
-    int unfilled = -1;     // row of the slots without a sample; -1: the last one
-
-    Pixels picture() const
-    {
-        Pixels pixels(width, height, ground);
-        const int left = frame;
-        const int right = frame + width - 1;
-        const int bottom = frame + height - 1;
-        if (gridCount > 0 && height / gridCount >= 1)
-            for (int y = bottom - height / gridCount; y >= 0; y -= height / gridCount)
-                pixels.fill(left, y, right - left + 1, 1, gridGreen);
-        for (int x = left + gridStep; gridStep > 0 && x <= right; x += gridStep)
-            pixels.fill(x, frame, 1, height, gridGreen);
-        // The newest sample is one column before the last; the column behind a full history stays empty.
-        const int shown = std::min(static_cast<int>(rows.size()), width - 1);
-        const int first = static_cast<int>(rows.size()) - shown;
-        for (int i = 0; i < shown; ++i) {
-            const int x = right - shown + i;
-            const int row = rows[static_cast<size_t>(first + i)];
-            int from = bottom;
-            if (!bars)
-                from = i > 0                ? rows[static_cast<size_t>(first + i - 1)]
-                       : shown == width - 1 ? row
-                       : unfilled < 0       ? bottom
-                                            : unfilled;
-            pixels.fill(x, std::min(from, row), 1, std::abs(from - row) + 1, curveBlue);
-        }
-        return pixels;
-    }
-};
-
-class Graph : public testing::Test
+// The rows of the inside of a graph that have grid lines, seen in the second column, and the columns, seen in
+// the first free row above the bottom.
+std::string gridLines(const Pixels& contents)
 {
-protected:
-    Graph() : window(0, "window"), graph(&window, "graph", true)
-    {
-        window.setGeometry(100, 100, 230, 130);
-        graph.setGeometry(10, 10, 202, 102);
-        showAndWait(&window);
-    }
+    std::string lines;
+    for (int y = 0; y < contents.height(); ++y)
+        if (contents.at(1, y) == gridGreen)
+            lines += std::to_string(y) + " ";
+    lines += "|";
+    for (int x = 0; x < contents.width(); ++x)
+        if (contents.at(x, contents.height() - 1) == gridGreen)
+            lines += " " + std::to_string(x);
+    return lines;
+}
 
-    Pixels contents() { return Pixels::now(&graph).part(1, 1, 200, 100); }
-
-    static Model empty() { return {200, 100, 1, 10, 10, false, {}}; }
-
-    QWidget window;
-    ZelGraph graph;
-};
+// The rows between which a column shows the curve, as "first-last", or "".
+std::string curveAt(const Pixels& contents, int x)
+{
+    int first = -1, last = -1;
+    for (int y = 0; y < contents.height(); ++y)
+        if (contents.at(x, y) == curveBlue) {
+            first = first < 0 ? y : first;
+            last = y;
+        }
+    return first < 0 ? "" : std::to_string(first) + "-" + std::to_string(last);
+}
 
 } // namespace
 
-TEST_F(Graph, WithoutSamplesItShowsItsGrid)
+TEST(GraphPicture, WithoutSamplesItShowsItsGrid)
 {
-    EXPECT_EQ(contents().differenceFrom(empty().picture()), "");
-    EXPECT_EQ(graph.frameStyle(), 0x32);
-    EXPECT_EQ(graph.backgroundMode(), Qt::NoBackground);
-    // Ten lines across, nineteen upright ones; the first column stays free.
-    EXPECT_EQ(contents().at(1, 90), gridGreen);
-    EXPECT_EQ(contents().at(0, 90), ground);
-    EXPECT_EQ(contents().at(11, 50), gridGreen);
-    EXPECT_EQ(contents().at(191, 50), gridGreen);
+    GraphPair pair;
+    EXPECT_EQ(pair.difference(), "");
+    EXPECT_EQ(gridLines(pair.contents()),
+              "0 10 20 30 40 50 60 70 80 90 | "
+              "11 21 31 41 51 61 71 81 91 101 111 121 131 141 151 161 171 181 191");
+    EXPECT_EQ(pair.contents().at(0, 90), ground) << "the first column stays free";
+    EXPECT_EQ(pair.contents().at(11, 0), gridGreen) << "only where the grid's lines cross";
+    EXPECT_EQ(pair.contents().at(199, 50), gridGreen);
 }
 
-TEST_F(Graph, SamplesComeInAtTheRight)
+TEST(GraphPicture, TheFirstRowHasNoUprightLines)
 {
-    Model model = empty();
-    const int samples[] = {5, 2, 4, 4, 0, 1};
-    for (const int sample : samples) {
-        graph.setValue(sample);
-        model.rows.push_back(100 - sample * 20);
-        EXPECT_EQ(contents().differenceFrom(model.picture()), "") << "after " << sample;
+    GraphPair pair;
+    pair.setGraphParameters(0, 5, -1, 10);
+    EXPECT_EQ(pair.contents().at(11, 0), ground);
+    EXPECT_EQ(pair.contents().at(11, 1), gridGreen);
+    EXPECT_EQ(pair.contents().at(11, 99), gridGreen);
+    EXPECT_EQ(pair.difference(), "");
+}
+
+TEST(GraphPicture, GridsOfEveryKind)
+{
+    GraphPair pair;
+    const struct {
+        int count, step;
+        const char* lines;
+    } grids[] = {
+        {-1, -1, "|"},
+        {300, -1, "|"},
+        {101, -1, "|"},
+        {0, -1, "|"},
+        {-2, -1, "|"},
+        {INT_MIN, -1, "|"},
+        {INT_MAX, -1, "|"},
+        {1, -1, "0 |"},
+        {3, -1, "1 34 67 |"},
+        {30, -1,
+         "1 4 7 10 13 16 19 22 25 28 31 34 37 40 43 46 49 52 55 58 61 64 67 70 73 76 79 82 85 88 91 94 97 |"},
+        {26, 150,
+         "1 4 7 10 13 16 19 22 25 28 31 34 37 40 43 46 49 52 55 58 61 64 67 70 73 76 79 82 85 88 91 94 97 | "
+         "151"},
+        {25, -1, "0 4 8 12 16 20 24 28 32 36 40 44 48 52 56 60 64 68 72 76 80 84 88 92 96 |"},
+        {-1, 198, "| 199"},
+        {-1, 199, "|"},
+        {-1, INT_MAX, "|"},
+    };
+    for (const auto& grid : grids) {
+        pair.setGraphParameters(0, 5, grid.count, grid.step);
+        EXPECT_EQ(gridLines(pair.contents()), grid.lines) << grid.count << ", " << grid.step;
+        EXPECT_EQ(pair.difference(), "") << grid.count << ", " << grid.step;
     }
 }
 
-TEST_F(Graph, AFullHistoryScrolls)
+TEST(GraphPicture, SamplesComeInAtTheRight)
 {
-    Model model = empty();
-    for (int i = 0; i < 450; ++i) {
-        const int sample = i * 7 % 6;
-        graph.setValue(sample);
-        model.rows.push_back(100 - sample * 20);
-        if (i == 198 || i == 199 || i == 200 || i == 449) {
-            EXPECT_EQ(contents().differenceFrom(model.picture()), "") << "after " << i + 1;
+    GraphPair pair;
+    pair.setGraphParameters(0, 5, -1, -1);
+    for (const int sample : {5, 2, 4}) {
+        pair.setValue(sample);
+        EXPECT_EQ(pair.difference(), "") << "after " << sample;
+    }
+    // Each column joins the row before it to its own. The place before the first sample counts as the bottom.
+    EXPECT_EQ(curveAt(pair.contents(), 196), "");
+    EXPECT_EQ(curveAt(pair.contents(), 197), "0-99");
+    EXPECT_EQ(curveAt(pair.contents(), 198), "0-60");
+    EXPECT_EQ(curveAt(pair.contents(), 199), "20-60");
+    pair.setValue(4);
+    EXPECT_EQ(curveAt(pair.contents(), 199), "20-20");
+}
+
+TEST(GraphPicture, ASampleAtTheMinimumIsBelowThePicture)
+{
+    GraphPair pair;
+    pair.setGraphParameters(0, 5, -1, -1);
+    pair.setValue(0);
+    EXPECT_EQ(pair.contents().count(curveBlue), 0);
+    pair.setGraphParameters(0, 1000, -1, -1);
+    pair.setValue(9); // not a full row
+    EXPECT_EQ(pair.contents().count(curveBlue), 0);
+    pair.setValue(10);
+    EXPECT_EQ(curveAt(pair.contents(), 199), "99-99");
+    EXPECT_EQ(pair.difference(), "");
+}
+
+TEST(GraphPicture, BarsStandOnTheBottom)
+{
+    GraphPair pair;
+    pair.setGraphParameters(0, 5, -1, -1, true);
+    for (const int sample : {3, 5, 0, 1})
+        pair.setValue(sample);
+    EXPECT_EQ(curveAt(pair.contents(), 196), "40-99");
+    EXPECT_EQ(curveAt(pair.contents(), 197), "0-99");
+    EXPECT_EQ(curveAt(pair.contents(), 198), "");
+    EXPECT_EQ(curveAt(pair.contents(), 199), "80-99");
+    EXPECT_EQ(pair.difference(), "");
+}
+
+TEST(GraphPicture, TheCurveLiesOverTheGrid)
+{
+    GraphPair pair;
+    for (int i = 0; i < 30; ++i)
+        pair.setValue(3);
+    EXPECT_EQ(pair.contents().at(191, 40), curveBlue);
+    EXPECT_EQ(pair.contents().at(191, 41), gridGreen);
+    EXPECT_EQ(pair.difference(), "");
+}
+
+TEST(GraphPicture, EveryColourHasItsPlace)
+{
+    GraphPair pair;
+    pair.setGraphParameters(0, 5, 10, 10, true, false, false, QColor(1, 2, 3), QColor(4, 5, 6),
+                            QColor(7, 8, 9));
+    pair.setValue(5);
+    EXPECT_EQ(pair.contents().at(0, 0), 0x010203U);
+    EXPECT_EQ(pair.contents().at(199, 55), 0x040506U);
+    EXPECT_EQ(pair.contents().at(5, 90), 0x070809U);
+    EXPECT_EQ(pair.difference(), "");
+}
+
+TEST(GraphPicture, FramesOfEveryKind)
+{
+    const struct {
+        int style, lineWidth;
+    } frames[] = {
+        {QFrame::NoFrame, 1},
+        {QFrame::Panel | QFrame::Sunken, 3},
+        {QFrame::Box | QFrame::Plain, 1},
+        {QFrame::Box | QFrame::Raised, 2},
+        {QFrame::WinPanel | QFrame::Sunken, 1},
+        {QFrame::StyledPanel | QFrame::Raised, 2},
+    };
+    for (const auto& frame : frames) {
+        GraphPair pair;
+        pair.setFrame(frame.style, frame.lineWidth);
+        pair.resize(150, 90);
+        for (int i = 0; i < 400; ++i) {
+            pair.setValue(i * 7 % 6);
+            if (i < 3 || i > 395 || i % 97 == 0) {
+                ASSERT_EQ(pair.difference(), "") << frame.style << " after " << i + 1;
+            }
         }
     }
 }
 
-TEST_F(Graph, BarsStandOnTheBottom)
+TEST(GraphPicture, AFrameThatGetsThinnerOrThickerKeepsTheSamples)
 {
-    graph.setGraphParameters(0, 5, -1, -1, true, false, false, Qt::black, QColor(0, 0, 220),
-                             QColor(0, 150, 0));
-    Model model = empty();
-    model.gridCount = -1;
-    model.gridStep = -1;
-    model.bars = true;
-    for (const int sample : {3, 5, 0, 1}) {
-        graph.setValue(sample);
-        model.rows.push_back(100 - sample * 20);
-    }
-    EXPECT_EQ(contents().differenceFrom(model.picture()), "");
+    GraphPair pair(62, 42);
+    for (int i = 0; i < 60; ++i)
+        pair.setValue(i % 6);
+    pair.setFrame(QFrame::NoFrame, 0); // now there are more columns than samples
+    EXPECT_EQ(pair.difference(), "");
+    for (int i = 0; i < 61; ++i)
+        pair.setValue(i % 5);
+    EXPECT_EQ(pair.difference(), "");
+    pair.setFrame(QFrame::Panel | QFrame::Sunken, 7);
+    EXPECT_EQ(pair.difference(), "");
+    pair.setValue(5);
+    EXPECT_EQ(pair.difference(), "");
 }
 
-TEST_F(Graph, SamplesAreClampedToTheRange)
+TEST(GraphPicture, TinyGraphs)
 {
-    Model model = empty();
-    const struct {
-        int sample;
-        int row;
-    } samples[] = {{6, 0}, {-1, 100}, {INT_MAX, 0}, {INT_MIN, 100}};
-    for (const auto& s : samples) {
-        graph.setValue(s.sample);
-        model.rows.push_back(s.row);
-    }
-    EXPECT_EQ(contents().differenceFrom(model.picture()), "");
+    for (int width = 1; width < 8; ++width)
+        for (int height = 1; height < 8; ++height) {
+            GraphPair pair(width, height);
+            for (int i = 0; i < 9; ++i)
+                pair.setValue(5 - i % 6);
+            EXPECT_EQ(pair.difference(), "") << width << "x" << height;
+            pair.setFrame(QFrame::NoFrame, 0);
+            pair.resize(width + 1, height);
+            for (int i = 0; i < 9; ++i) {
+                pair.setValue(5 - i % 6);
+                EXPECT_EQ(pair.difference(), "") << width + 1 << "x" << height << " after " << i + 1;
+            }
+        }
 }
 
-TEST_F(Graph, SamplesBelowARaisedMinimumAreAtTheTop)
+TEST(GraphPicture, ThousandsOfColumns)
 {
-    for (const int sample : {1, 2, 5})
-        graph.setValue(sample);
-    graph.setMinY(3);
-    Model model = empty();
-    model.rows = {0, 0, 0};
-    model.unfilled = 0; // they keep the old minimum
-    EXPECT_EQ(contents().differenceFrom(model.picture()), "");
-}
-
-TEST_F(Graph, TheAutomaticRangeFollowsTheSamples)
-{
-    graph.setGraphParameters(100, 200, 10, 10, false, false, true, Qt::black, QColor(0, 0, 220),
-                             QColor(0, 150, 0));
-    Model model = empty();
-    graph.setValue(7); // 6 to 8
-    model.rows = {50};
-    EXPECT_EQ(contents().differenceFrom(model.picture()), "");
-    graph.setValue(10); // 6 to 10
-    model.rows = {75, 0};
-    EXPECT_EQ(contents().differenceFrom(model.picture()), "");
-    graph.setMaxY(1000);
-    graph.setMinY(-1000);
-    EXPECT_EQ(contents().differenceFrom(model.picture()), "");
-}
-
-TEST_F(Graph, RatesArePerSecond)
-{
-    FakeTime clock(1000);
-    ZelGraph rate(&window, "rate");
-    rate.setGeometry(10, 10, 202, 102);
-    rate.setGraphParameters(-5, 5, -1, -1, false, true, false, Qt::black, QColor(0, 0, 220),
-                            QColor(0, 150, 0));
-    rate.show();
+    GraphPair pair;
+    pair.resize(5000, 20);
+    pair.setGraphParameters(-1000, 1000, 4, 7);
+    for (int i = 0; i < 300; ++i)
+        pair.setValue(i * 37 % 2000 - 1000);
+    pair.setGraphParameters(0, 10, 3, 1, true);
+    for (int i = 0; i < 20; ++i)
+        pair.setValue(i);
+    // The part that the screen shows.
+    const Pixels all = pair.model.contents();
+    pair.graph.move(-4200, 0);
     settle();
-    Model model = empty();
-    model.gridCount = model.gridStep = -1;
-    const auto rowOf = [](double value) { return 100 - static_cast<int>((value + 5) / 10 * 100); };
-    rate.setValue(10);
-    model.rows.push_back(rowOf(0));
-    clock.advance(2);
-    rate.setValue(16);
-    model.rows.push_back(rowOf(3));
-    rate.setValue(10);
-    model.rows.push_back(rowOf(-3));
-    clock.advance(-1); // a clock that is set back
-    rate.setValue(12);
-    model.rows.push_back(rowOf(-2));
-    EXPECT_EQ(Pixels::of(&rate).part(1, 1, 200, 100).differenceFrom(model.picture()), "");
+    const Pixels seen = Pixels::ofRoot(pair.window.x(), pair.window.y(), 799, 19);
+    EXPECT_EQ(seen.part(0, 1, 798, 18).differenceFrom(all.part(4199, 0, 798, 18)), "");
 }
 
-TEST_F(Graph, ClearingKeepsThePlacesOfTheSamples)
+TEST(GraphPicture, AfterBeingCoveredItIsWholeAgain)
 {
-    for (int i = 0; i < 3; ++i)
-        graph.setValue(4);
-    graph.clearAll();
-    graph.setValue(5);
-    Model model = empty();
-    model.rows = {100, 100, 100, 0};
-    EXPECT_EQ(contents().differenceFrom(model.picture()), "");
-}
-
-TEST_F(Graph, AResizeBeginsAnew)
-{
-    graph.setValue(4);
-    graph.resize(202, 103);
-    graph.resize(202, 102);
-    settle();
-    EXPECT_EQ(contents().differenceFrom(empty().picture()), "");
-}
-
-TEST_F(Graph, EverySampleIsOnePaintAndSameLimitsAreNone)
-{
-    EventCount paints(&graph, QEvent::Paint);
-    graph.setValue(1);
-    EXPECT_EQ(paints.take(), 1);
-    graph.setMinY(0);
-    graph.setMaxY(5);
-    EXPECT_EQ(paints.take(), 0);
-    graph.setMaxY(6);
-    graph.setMinY(1);
-    graph.clearAll();
-    EXPECT_EQ(paints.take(), 3);
-}
-
-TEST_F(Graph, WiderFramesMoveThePicture)
-{
-    graph.setLineWidth(3);
-    graph.resize(206, 106);
-    settle();
-    Model model = empty();
-    model.frame = 3;
-    graph.setValue(5);
-    graph.setValue(1);
-    model.rows = {102 - 100, 102 - 20};
-    EXPECT_EQ(Pixels::now(&graph).part(3, 3, 200, 100).differenceFrom(model.picture()), "");
-}
-
-TEST_F(Graph, StrangeSizesAndGridsDoNotFail)
-{
-    for (const int size : {1, 2, 3, 4, 5}) {
-        graph.resize(size, size);
-        graph.setValue(3);
-        graph.setValue(5);
+    GraphPair pair;
+    for (int i = 0; i < 150; ++i)
+        pair.setValue(i * 5 % 6);
+    pair.press(30);
+    QWidget cover(0, "cover", Qt::WStyle_Customize | Qt::WStyle_NoBorder | Qt::WX11BypassWM);
+    // Two corners at once, and a part of the frame.
+    for (const QRect& part : {QRect(60, 20, 70, 30), QRect(0, 0, 30, 40), QRect(190, 80, 60, 60)}) {
+        cover.setGeometry(QRect(pair.graph.mapToGlobal(part.topLeft()), part.size()));
+        showAndWait(&cover);
+        cover.hide();
+        settle();
+        EXPECT_EQ(pair.difference(), "");
     }
-    graph.resize(3000, 20);
-    graph.setGraphParameters(INT_MAX, INT_MIN, 300, 7, false, false, false, Qt::black, Qt::red, Qt::green);
-    graph.setValue(INT_MAX);
-    graph.setGraphParameters(INT_MIN, INT_MAX, -5, 100000, true, false, false, Qt::black, Qt::red, Qt::green);
-    graph.setValue(INT_MIN);
-    graph.setGraphParameters(0, 1, 0, -1, true, true, true, Qt::black, Qt::red, Qt::green);
-    graph.setValue(INT_MAX);
-    graph.setValue(INT_MIN);
-    ZelGraph neverShown;
-    neverShown.setValue(3);
-    neverShown.clearAll();
-    EXPECT_EQ(graph.width(), 3000);
+    pair.release();
+    EXPECT_EQ(pair.difference(), "") << "nothing of the read-out is left";
 }
 
-TEST_F(Graph, AReadOutInvertsAndGoesAwayExactly)
+TEST(GraphPicture, ItIsAFrameThatIsNeverErased)
 {
-    graph.setValue(3);
-    const Pixels before = Pixels::now(&graph);
-    const struct {
-        int y;
-        const char* text;
-        int line;
-    } places[] = {{50, "2.50", 50}, {0, "5.00", 0}, {100, "0.00", 100}, {101, "-0.05", 101}};
-    for (const auto& place : places) {
-        press(&graph, 30, place.y);
-        QPixmap pixmap(202, 102);
-        bitBlt(&pixmap, 0, 0, &graph);
-        const Pixels shown = Pixels::now(&graph);
-        EXPECT_NE(shown, before) << place.y;
-        const QFontMetrics metrics(graph.font());
-        const int width = metrics.width(place.text);
-        const int left = 100 - width / 2;
-        EXPECT_EQ(shown.at(1, place.line), before.at(1, place.line) ^ 0xffffff) << place.y;
-        EXPECT_EQ(shown.at(left, place.line) != before.at(left, place.line), true) << place.y;
-        EXPECT_EQ(shown.at(200, place.line), before.at(200, place.line) ^ 0xffffff) << place.y;
-        release(&graph, 30, place.y);
-        EXPECT_EQ(Pixels::now(&graph).differenceFrom(before), "") << place.y;
-    }
+    const ZelGraph graph;
+    EXPECT_EQ(graph.frameStyle(), 0x32);
+    EXPECT_EQ(graph.lineWidth(), 1);
+    EXPECT_EQ(graph.backgroundMode(), Qt::NoBackground);
+    EXPECT_EQ(graph.parentWidget(), nullptr);
+    EXPECT_EQ(graph.focusPolicy(), QWidget::NoFocus);
+    EXPECT_FALSE(graph.hasMouseTracking());
+    EXPECT_EQ(graph.children(), nullptr);
 }
 
-TEST_F(Graph, TheReadOutFollowsThePointerAndSurvivesSamples)
+TEST(GraphPicture, FlagsAndNameGoToTheWidget)
 {
-    const Pixels before = Pixels::now(&graph);
-    press(&graph, 30, 50);
-    drag(&graph, 30, 150);
-    EXPECT_EQ(Pixels::now(&graph).at(1, 100), before.at(1, 100) ^ 0xffffff);
-    drag(&graph, 30, -20);
-    EXPECT_EQ(Pixels::now(&graph).at(1, 0), before.at(1, 0) ^ 0xffffff);
-    EXPECT_EQ(Pixels::now(&graph).at(1, 100), before.at(1, 100));
-    graph.setValue(2);
-    EXPECT_EQ(Pixels::now(&graph).at(1, 0), before.at(1, 0) ^ 0xffffff);
-    release(&graph, 500, 500);
-    Model model = empty();
-    model.rows = {60};
-    EXPECT_EQ(contents().differenceFrom(model.picture()), "");
-}
-
-TEST_F(Graph, OnlyTheLeftButtonShowsValues)
-{
-    const Pixels before = Pixels::now(&graph);
-    press(&graph, 30, 50, Qt::RightButton);
-    EXPECT_EQ(Pixels::now(&graph).differenceFrom(before), "");
-    ZelGraph plain(&window, "plain");
-    plain.setGeometry(10, 10, 202, 102);
-    plain.show();
-    settle();
-    const Pixels rest = Pixels::now(&plain);
-    press(&plain, 30, 50);
-    EXPECT_EQ(Pixels::now(&plain).differenceFrom(rest), "");
-}
-
-TEST_F(Graph, EventsAreToldAndGoOn)
-{
-    SignalRecorder recorder;
-    recorder.watch(&graph, SIGNAL(mousePress(QMouseEvent*)));
-    recorder.watch(&graph, SIGNAL(mouseRelease(QMouseEvent*)));
-    recorder.watch(&graph, SIGNAL(mouseDoubleClick(QMouseEvent*)));
-    recorder.watch(&graph, SIGNAL(mouseMove(QMouseEvent*)));
-    recorder.watch(&graph, SIGNAL(keyPress(QKeyEvent*)));
-    EventCount presses(&window, QEvent::MouseButtonPress);
-    EXPECT_FALSE(press(&graph));
-    EXPECT_EQ(presses.take(), 1);
-    drag(&graph, 9, 9);
-    release(&graph);
-    doubleClick(&graph);
-    release(&graph);
-    EXPECT_FALSE(sendKey(&graph, Qt::Key_A, 'a'));
-    EXPECT_EQ(recorder.take(),
-              "mousePress mouseMove mouseRelease mouseDoubleClick mousePress mouseRelease keyPress");
+    QWidget parent;
+    const ZelGraph graph(&parent, "load", false, Qt::WType_TopLevel);
+    EXPECT_STREQ(graph.name(), "load");
+    EXPECT_TRUE(graph.isTopLevel());
+    EXPECT_EQ(graph.parentWidget(), &parent);
 }
