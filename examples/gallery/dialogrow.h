@@ -1,17 +1,21 @@
 #ifndef DIALOGROW_H
 #define DIALOGROW_H
 
+#include <qcolor.h>
 #include <qobject.h>
 
+class QLabel;
 class QWidget;
+class ZelColorButton;
 
-// Runs the three dialogs and tells what was chosen in them.
+// Runs the three dialogs and shows what was chosen: the colour on a button, the colours on the whole gallery,
+// the font on a label.
 class DialogRow : public QObject
 {
     Q_OBJECT
 
 public:
-    // The dialogs belong to the window that the row lies in.
+    // The results lie in the second line of the row; the dialogs belong to its window.
     explicit DialogRow(QWidget* row);
 
 signals:
@@ -24,6 +28,9 @@ private slots:
 
 private:
     QWidget* m_window;
+    ZelColorButton* m_color;
+    QColor m_chosenColor;
+    QLabel* m_sample;
 };
 
 #endif

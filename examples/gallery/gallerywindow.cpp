@@ -12,6 +12,7 @@ namespace
 const int margin = 12;
 const int headingHeight = 22;
 const int rowWidth = 460;
+const int columnHeight = 560;
 const int statusHeight = 26;
 } // namespace
 
@@ -27,7 +28,9 @@ void SignalTeller::tell()
     m_line->setText(m_text);
 }
 
-GalleryWindow::GalleryWindow() : QWidget(0, "gallery"), m_status(new QLabel(this, "status")), m_bottom(margin)
+GalleryWindow::GalleryWindow()
+    : QWidget(0, "gallery"), m_status(new QLabel(this, "status")), m_left(margin), m_bottom(margin),
+      m_height(0)
 {
     setCaption("zelkit gallery");
     m_status->setFrameStyle(QFrame::Panel | QFrame::Sunken);
@@ -36,16 +39,21 @@ GalleryWindow::GalleryWindow() : QWidget(0, "gallery"), m_status(new QLabel(this
 
 QWidget* GalleryWindow::addRow(const char* title, int height)
 {
+    if (m_bottom + headingHeight + height > columnHeight) {
+        m_left += rowWidth + 2 * margin;
+        m_bottom = margin;
+    }
     QLabel* const heading = new QLabel(title, this);
     QFont bold = heading->font();
     bold.setBold(true);
     heading->setFont(bold);
-    heading->setGeometry(margin, m_bottom, rowWidth, headingHeight);
+    heading->setGeometry(m_left, m_bottom, rowWidth, headingHeight);
     m_bottom += headingHeight;
 
     QWidget* const row = new QWidget(this, title);
-    row->setGeometry(margin, m_bottom, rowWidth, height);
+    row->setGeometry(m_left, m_bottom, rowWidth, height);
     m_bottom += height + margin;
+    m_height = std::max(m_height, m_bottom);
     return row;
 }
 
@@ -58,8 +66,9 @@ void GalleryWindow::watch(QWidget* sender, const char* signal)
 
 void GalleryWindow::finish()
 {
-    m_status->setGeometry(margin, m_bottom, rowWidth, statusHeight);
-    setFixedSize(rowWidth + 2 * margin, m_bottom + statusHeight + margin);
+    const int right = m_left + rowWidth;
+    m_status->setGeometry(margin, m_height, right - margin, statusHeight);
+    setFixedSize(right + margin, m_height + statusHeight + margin);
     const QRect screen = QApplication::desktop()->geometry();
     move((screen.width() - width()) / 2, std::max((screen.height() - height()) / 2, 0));
 }

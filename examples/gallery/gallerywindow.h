@@ -24,7 +24,8 @@ private:
     QLabel* m_line;
 };
 
-// The window of the gallery: a heading and a row for each class, and the status line at the bottom.
+// The window of the gallery: a heading and a row for each class, in columns, and the status line at the
+// bottom.
 class GalleryWindow : public QWidget
 {
     Q_OBJECT
@@ -32,7 +33,8 @@ class GalleryWindow : public QWidget
 public:
     GalleryWindow();
 
-    // Adds a row of that height (pixels) under the others and returns the area for its widgets.
+    // Adds a row of that height (pixels) under the others, or at the top of a new column when it does not fit
+    // there any more, and returns the area for its widgets.
     QWidget* addRow(const char* title, int height);
 
     // Shows the signal on the status line from now on and makes the widget a stop of the tour.
@@ -50,7 +52,10 @@ public slots:
 private:
     QLabel* m_status;
     std::vector<QWidget*> m_stops;
-    int m_bottom;
+    // Where the next row begins.
+    int m_left, m_bottom;
+    // Of the highest column.
+    int m_height;
 };
 
 #endif
