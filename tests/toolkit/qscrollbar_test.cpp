@@ -187,6 +187,37 @@ TEST_F(ScrollBar, ArrowsAreDrawnWithLightFromAbove)
                                                                    "..........dd\n");
 }
 
+TEST_F(ScrollBar, ArrowsOfAShortBarMeetInTheirMiddleRow)
+{
+    const Pixels::Legend legend = {{'.', 0xa0a0a4}, {'l', 0xececec}, {'d', 0x808080}, {' ', 0xc0c0c0}};
+    bar.resize(30, 16);
+    const Pixels shown = Pixels::of(&bar);
+    EXPECT_EQ(shown.part(2, 2, 9, 12).picture(legend), ".........\n"
+                                                       ".......ll\n"
+                                                       ".....llll\n"
+                                                       "...llll  \n"
+                                                       ".llll    \n"
+                                                       "lll      \n"
+                                                       ".dddd    \n"
+                                                       "...dddd  \n"
+                                                       ".....dddd\n"
+                                                       ".......dd\n"
+                                                       ".........\n"
+                                                       ".........\n");
+    EXPECT_EQ(shown.part(19, 2, 9, 12).picture(legend), ".........\n"
+                                                        "ll.......\n"
+                                                        "llll.....\n"
+                                                        "  llll...\n"
+                                                        "    llll.\n"
+                                                        "      ddd\n"
+                                                        "    dddd.\n"
+                                                        "  dddd...\n"
+                                                        "dddd.....\n"
+                                                        "dd.......\n"
+                                                        ".........\n"
+                                                        ".........\n");
+}
+
 TEST(ScrollBarSize, IsSixteenAcross)
 {
     EXPECT_EQ(QScrollBar(Qt::Horizontal, nullptr).sizeHint(), QSize(30, 16));

@@ -72,6 +72,9 @@ void dispatchToWindow(QWidget* window, const x11::Event& e)
     case x11::Event::Unmapped:
         windowUnmapped(window);
         break;
+    case x11::Event::IconicChanged:
+        windowIconicChanged(window);
+        break;
     case x11::Event::Reparented:
         windowReparented(window);
         break;

@@ -23,6 +23,7 @@ struct WidgetData {
     QSizePolicy policy = QSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     bool placed = false;               // the program chose the place
     bool mapped = false;               // the server was told to show the window
+    bool takenAway = false;            // by the window manager, after the program had shown it
     unsigned long configureSerial = 0; // the latest change of the geometry that the server was told of
 
     QPalette palette;
@@ -111,6 +112,7 @@ void windowConfigured(QWidget* window, const QRect& rect);
 void windowReparented(QWidget* window);
 void windowMapped(QWidget* window);
 void windowUnmapped(QWidget* window);
+void windowIconicChanged(QWidget* window);
 // A queued paint event is delivered.
 void repaintPosted(QWidget* widget, const QRegion& region, bool erase);
 

@@ -82,6 +82,7 @@ void hideWindow(QWidget* widget)
     if (!data->mapped)
         return;
     data->mapped = false;
+    data->takenAway = false;
     data->exposed = QRegion();
     if (widget->isTopLevel() && !widget->testWFlags(Qt::WType_Popup | Qt::WX11BypassWM))
         x11::withdrawWindow(widget->winId());

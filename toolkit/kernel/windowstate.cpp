@@ -1,4 +1,5 @@
 // QWidget: windows that are iconified, maximized, framed or fill the screen.
+#include "kernel/applicationdata.h"
 #include "kernel/widgetdata.h"
 #include "x11/window.h"
 #include "x11/wmhints.h"
@@ -6,6 +7,9 @@
 #include <qapplication.h>
 #include <qdesktopwidget.h>
 #include <qevent.h>
+#include <qguardedptr.h>
+
+#include <vector>
 
 namespace
 {
@@ -37,22 +41,52 @@ void setMinimized(QWidget* window, bool minimized)
     sendStateChange(window);
 }
 
+// To the window and all that can be seen in it.
+template <typename Event>
+void tellVisible(QWidget* widget)
+{
+    const QGuardedPtr<QWidget> alive(widget);
+    Event event;
+    zeltk::sendSpontaneous(widget, &event);
+    if (!alive)
+        return;
+    std::vector<QGuardedPtr<QWidget>> children;
+    for (QWidget* child : zeltk::childWidgets(widget))
+        children.emplace_back(child);
+    for (const QGuardedPtr<QWidget>& child : children)
+        if (child && !child->isTopLevel() && child->isVisible())
+            tellVisible<Event>(child);
+}
+
 } // namespace
 
 namespace zeltk
 {
 
+// Windows that come and go without the program's doing remain visible in its eyes, but hear of it. The server
+// may also have told late of a hide() that was followed by a show(); then both are heard once more.
 void windowMapped(QWidget* window)
 {
-    if (dataOf(window)->mapped)
-        setMinimized(window, false);
+    WidgetData* data = dataOf(window);
+    if (data->mapped && data->takenAway) {
+        data->takenAway = false;
+        tellVisible<QShowEvent>(window);
+    }
 }
 
-// If it was not the program that took it away, it was iconified.
 void windowUnmapped(QWidget* window)
 {
+    WidgetData* data = dataOf(window);
+    if (data->mapped && !data->takenAway) {
+        data->takenAway = true;
+        tellVisible<QHideEvent>(window);
+    }
+}
+
+void windowIconicChanged(QWidget* window)
+{
     if (dataOf(window)->mapped)
-        setMinimized(window, true);
+        setMinimized(window, x11::isIconic(window->winId()));
 }
 
 // The window manager may have put the window into a frame.

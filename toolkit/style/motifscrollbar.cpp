@@ -45,15 +45,17 @@ struct ArrowPainter {
 } // namespace
 
 // The slopes rise two places a row and are four places wide; the base is two places thick. Where they meet,
-// the edge in the shade wins only its outer place.
+// the edge in the shade wins only its outer place. The middle row of an odd size belongs to the first half in
+// arrows to the left and down, to the second one in the others.
 void drawArrow(QPainter* p, int x, int y, int size, Arrow arrow, bool down, const QColorGroup& g)
 {
     const QColor lit = down ? g.dark() : g.light();
     const QColor shaded = down ? g.light() : g.dark();
     const bool baseIsLit = arrow == Arrow::Right || arrow == Arrow::Down;
+    const int firstHalf = (arrow == Arrow::Left || arrow == Arrow::Down ? size + 1 : size) / 2;
     const ArrowPainter painter = {p, x, y, size, arrow};
     for (int row = 0; row < size; ++row) {
-        const bool first = row < (size + 1) / 2;
+        const bool first = row < firstHalf;
         const int fromEdge = std::min(row, size - 1 - row);
         const int slope = size - 2 - 2 * fromEdge;
         const bool sameShade = first == baseIsLit;

@@ -184,6 +184,8 @@ void translate(XEvent* x, Event* event)
         break;
     case PropertyNotify:
         noteTime(x->xproperty.time, event);
+        if (x->xproperty.atom == atom("WM_STATE"))
+            event->type = Event::IconicChanged;
         break;
     case MappingNotify:
         XRefreshKeyboardMapping(&x->xmapping);

@@ -28,6 +28,7 @@ struct Event {
         Mapped,
         Unmapped,
         Reparented,
+        IconicChanged, // isIconic tells
         CloseRequest,
         Ping
     };

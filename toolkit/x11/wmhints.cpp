@@ -215,6 +215,23 @@ void requestState(XId window, unsigned bits, bool on)
                {on ? 1 : 0, atoms.empty() ? 0 : atoms[0], atoms.size() > 1 ? atoms[1] : 0, 1});
 }
 
+bool isIconic(XId window)
+{
+    Atom type;
+    int format;
+    unsigned long count;
+    unsigned long rest;
+    unsigned char* data = nullptr;
+    const Atom state = atom("WM_STATE");
+    const int status = XGetWindowProperty(display(), window, state, 0, 1, False, state, &type, &format,
+                                          &count, &rest, &data);
+    const bool iconic = status == Success && format == 32 && count == 1 &&
+                        *reinterpret_cast<const long*>(data) == IconicState;
+    if (data)
+        XFree(data);
+    return iconic;
+}
+
 void requestActivation(XId window)
 {
     sendToRoot(window, "_NET_ACTIVE_WINDOW", {1, CurrentTime, 0});

@@ -62,6 +62,9 @@ void setInitialState(XId window, unsigned bits);
 // Afterwards the window manager is asked.
 void requestState(XId window, unsigned bits, bool on);
 
+// Whether the window manager has put an icon in the window's place.
+bool isIconic(XId window);
+
 void requestActivation(XId window);
 // Whether a window manager that knows these conventions is running.
 bool hasWindowManager();
