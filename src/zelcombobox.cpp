@@ -2,6 +2,7 @@
 #include "fieldkeys.h"
 
 #include <qapplication.h>
+#include <qguardedptr.h>
 #include <qlistbox.h>
 
 ZelComboBox::ZelComboBox(bool rw, QWidget* parent, const char* name) : QComboBox(rw, parent, name) {}
@@ -12,22 +13,27 @@ ZelComboBox::~ZelComboBox() {}
 
 void ZelComboBox::keyPressEvent(QKeyEvent* event)
 {
+    const QGuardedPtr<QWidget> alive(this);
     QComboBox::keyPressEvent(event);
-    if (keepFieldKey(event))
+    if (keepFieldKey(event) && alive)
         emit escapePressed();
 }
 
 // Opening the list moves the focus into it; that is no leaving.
 void ZelComboBox::focusOutEvent(QFocusEvent* event)
 {
+    const QGuardedPtr<QWidget> alive(this);
     const QWidget* const list = listBox();
     if (qApp->focusWidget() != list)
         emit focusOut();
-    QComboBox::focusOutEvent(event);
+    if (alive)
+        QComboBox::focusOutEvent(event);
 }
 
 void ZelComboBox::leaveEvent(QEvent* event)
 {
+    const QGuardedPtr<QWidget> alive(this);
     emit leave();
-    QWidget::leaveEvent(event);
+    if (alive)
+        QWidget::leaveEvent(event);
 }

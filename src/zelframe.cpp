@@ -1,6 +1,7 @@
 #include "zelframe.h"
 
 #include <qevent.h>
+#include <qguardedptr.h>
 
 ZelFrame::ZelFrame(QWidget* parent, const char* name, WFlags flags) : QFrame(parent, name, flags) {}
 
@@ -8,28 +9,40 @@ ZelFrame::~ZelFrame() {}
 
 void ZelFrame::mousePressEvent(QMouseEvent* event)
 {
+    const QGuardedPtr<QWidget> alive(this);
     emit mousePress(event);
-    emit mousePressEx(event, this);
-    QWidget::mousePressEvent(event);
+    if (alive)
+        emit mousePressEx(event, this);
+    if (alive)
+        QWidget::mousePressEvent(event);
 }
 
 void ZelFrame::mouseReleaseEvent(QMouseEvent* event)
 {
+    const QGuardedPtr<QWidget> alive(this);
     emit mouseRelease(event);
-    emit mouseReleaseEx(event, this);
-    QWidget::mouseReleaseEvent(event);
+    if (alive)
+        emit mouseReleaseEx(event, this);
+    if (alive)
+        QWidget::mouseReleaseEvent(event);
 }
 
 void ZelFrame::mouseDoubleClickEvent(QMouseEvent* event)
 {
+    const QGuardedPtr<QWidget> alive(this);
     emit mouseDoubleClick(event);
-    emit mouseDoubleClickEx(event, this);
-    QWidget::mouseDoubleClickEvent(event);
+    if (alive)
+        emit mouseDoubleClickEx(event, this);
+    if (alive)
+        QWidget::mouseDoubleClickEvent(event);
 }
 
 void ZelFrame::mouseMoveEvent(QMouseEvent* event)
 {
+    const QGuardedPtr<QWidget> alive(this);
     emit mouseMove(event);
-    emit mouseMoveEx(event, this);
-    QWidget::mouseMoveEvent(event);
+    if (alive)
+        emit mouseMoveEx(event, this);
+    if (alive)
+        QWidget::mouseMoveEvent(event);
 }

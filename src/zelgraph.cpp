@@ -2,6 +2,7 @@
 #include "graphscale.h"
 
 #include <qevent.h>
+#include <qguardedptr.h>
 #include <qfontmetrics.h>
 #include <qpainter.h>
 #include <qpixmap.h>
@@ -215,8 +216,9 @@ void ZelGraph::drawHistory(QPainter& painter, const QRect& area) const
 
 void ZelGraph::mousePressEvent(QMouseEvent* event)
 {
+    const QGuardedPtr<QWidget> alive(this);
     emit mousePress(event);
-    if (event->button() == LeftButton && (modeFlags & GraphReadout)) {
+    if (alive && event->button() == LeftButton && (modeFlags & GraphReadout)) {
         const QRect area = contentsRect();
         modeFlags |= GraphReadoutShown;
         mouseX = event->x();
@@ -225,13 +227,15 @@ void ZelGraph::mousePressEvent(QMouseEvent* event)
         QPainter screen(this);
         drawReadout(screen, area);
     }
-    QWidget::mousePressEvent(event);
+    if (alive)
+        QWidget::mousePressEvent(event);
 }
 
 void ZelGraph::mouseMoveEvent(QMouseEvent* event)
 {
+    const QGuardedPtr<QWidget> alive(this);
     emit mouseMove(event);
-    if (modeFlags & GraphReadoutShown) {
+    if (alive && (modeFlags & GraphReadoutShown)) {
         const QRect area = contentsRect();
         QPainter screen(this);
         drawReadout(screen, area); // takes the old one away
@@ -242,30 +246,37 @@ void ZelGraph::mouseMoveEvent(QMouseEvent* event)
         placeReadout(area);
         drawReadout(screen, area);
     }
-    QWidget::mouseMoveEvent(event);
+    if (alive)
+        QWidget::mouseMoveEvent(event);
 }
 
 void ZelGraph::mouseReleaseEvent(QMouseEvent* event)
 {
+    const QGuardedPtr<QWidget> alive(this);
     emit mouseRelease(event);
-    if (event->button() == LeftButton && (modeFlags & GraphReadoutShown)) {
+    if (alive && event->button() == LeftButton && (modeFlags & GraphReadoutShown)) {
         modeFlags &= ~GraphReadoutShown;
         QPainter screen(this);
         drawReadout(screen, contentsRect());
     }
-    QWidget::mouseReleaseEvent(event);
+    if (alive)
+        QWidget::mouseReleaseEvent(event);
 }
 
 void ZelGraph::mouseDoubleClickEvent(QMouseEvent* event)
 {
+    const QGuardedPtr<QWidget> alive(this);
     emit mouseDoubleClick(event);
-    QWidget::mouseDoubleClickEvent(event);
+    if (alive)
+        QWidget::mouseDoubleClickEvent(event);
 }
 
 void ZelGraph::keyPressEvent(QKeyEvent* event)
 {
+    const QGuardedPtr<QWidget> alive(this);
     emit keyPress(event);
-    QWidget::keyPressEvent(event);
+    if (alive)
+        QWidget::keyPressEvent(event);
 }
 
 // The middle of the text is measured from the widget's edge, not from the contents'.

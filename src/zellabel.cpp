@@ -3,6 +3,7 @@
 
 #include <qevent.h>
 #include <qfont.h>
+#include <qguardedptr.h>
 #include <qpainter.h>
 
 ZelLabel::ZelLabel(const QString& text, QWidget* parent, const char* name, bool active, WFlags flags)
@@ -34,31 +35,39 @@ void ZelLabel::setOn(bool newOn)
 
 void ZelLabel::mousePressEvent(QMouseEvent* event)
 {
+    const QGuardedPtr<QWidget> alive(this);
     emit mousePress(event);
-    QWidget::mousePressEvent(event);
+    if (alive)
+        QWidget::mousePressEvent(event);
 }
 
 void ZelLabel::mouseMoveEvent(QMouseEvent* event)
 {
+    const QGuardedPtr<QWidget> alive(this);
     emit mouseMove(event);
-    QWidget::mouseMoveEvent(event);
+    if (alive)
+        QWidget::mouseMoveEvent(event);
 }
 
 void ZelLabel::mouseDoubleClickEvent(QMouseEvent* event)
 {
+    const QGuardedPtr<QWidget> alive(this);
     emit mouseDoubleClick(event);
-    QWidget::mouseDoubleClickEvent(event);
+    if (alive)
+        QWidget::mouseDoubleClickEvent(event);
 }
 
 // No press is needed before the release.
 void ZelLabel::mouseReleaseEvent(QMouseEvent* event)
 {
+    const QGuardedPtr<QWidget> alive(this);
     emit mouseRelease(event);
-    if (event->button() == LeftButton && insideWidget(this, event->pos())) {
+    if (alive && event->button() == LeftButton && insideWidget(this, event->pos())) {
         on = !on;
         emit clicked(this);
     }
-    QWidget::mouseReleaseEvent(event);
+    if (alive)
+        QWidget::mouseReleaseEvent(event);
 }
 
 void ZelLabel::enterEvent(QEvent* event)

@@ -1,6 +1,7 @@
 #include "zellineeditint.h"
 
 #include <qevent.h>
+#include <qguardedptr.h>
 
 #include "textnumber.h"
 
@@ -39,7 +40,10 @@ void ZelLineEditInt::keyPressEvent(QKeyEvent* event)
     if (!reachesTheField(event))
         return;
     const int before = number();
+    const QGuardedPtr<QWidget> alive(this);
     QLineEdit::keyPressEvent(event);
+    if (!alive)
+        return;
     const int after = number();
     if (after < minimum || after > maximum)
         setText(QString::number(before));

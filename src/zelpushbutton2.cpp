@@ -1,6 +1,7 @@
 #include "zelpushbutton2.h"
 
 #include <qevent.h>
+#include <qguardedptr.h>
 
 ZelPushButton2::ZelPushButton2(QWidget* parent, const char* name) : QPushButton(parent, name) {}
 
@@ -13,7 +14,9 @@ ZelPushButton2::~ZelPushButton2() {}
 
 void ZelPushButton2::keyPressEvent(QKeyEvent* event)
 {
+    const QGuardedPtr<QWidget> alive(this);
     if (event->key() == Key_Escape)
         emit escapePressed();
-    QButton::keyPressEvent(event);
+    if (alive)
+        QButton::keyPressEvent(event);
 }
