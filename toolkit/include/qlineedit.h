@@ -20,6 +20,7 @@ class Q_EXPORT QLineEdit : public QFrame
 public:
     QLineEdit(QWidget* parent, const char* name = 0);
     QLineEdit(const QString& contents, QWidget* parent, const char* name = 0);
+    QLineEdit(const QString& contents, const QString& inputMask, QWidget* parent, const char* name = 0);
     ~QLineEdit();
 
     enum EchoMode { Normal, NoEcho, Password };
@@ -27,6 +28,7 @@ public:
     QString text() const;
     //! As it is shown: stars for passwords.
     QString displayText() const;
+    //! With an input mask, the mask's length.
     int maxLength() const;
     bool frame() const;
     EchoMode echoMode() const;
@@ -69,7 +71,16 @@ public:
     //! Whether a press on the selection leaves it alone until the button is released.
     bool dragEnabled() const;
 
+    //! Whether the mask is filled as far as it must be, and the validator is content.
     bool hasAcceptableInput() const;
+
+    //! One sign for each place of the text: A a letter, N letter or digit, X anything, 9 digit, D digit but
+    //! 0; their small twins, 0 for 9 and # for a digit or a sign may stay empty. After > letters become
+    //! capital, after < small, after ! neither. Other signs, and those after a backslash, are separators. A
+    //! semicolon and a sign at the end tell how empty places are shown: a blank without it.
+    QString inputMask() const;
+    //! An empty mask allows all texts again.
+    void setInputMask(const QString& inputMask);
 
 public slots:
     virtual void setText(const QString& text);

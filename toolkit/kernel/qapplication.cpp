@@ -41,7 +41,7 @@ namespace
 
 void warnOfXError(const std::string& text)
 {
-    qWarning("X error: %s", text.c_str());
+    qWarning("%s", text.c_str());
 }
 
 const char* baseName(const char* path)

@@ -144,6 +144,21 @@ void EditBuffer::removeSelection()
     apply(Kind::Selection, from, count, QString());
 }
 
+void EditBuffer::overwrite(const QString& whole, int cursorPlace, bool removing)
+{
+    int from = 0;
+    while (from < length() && whole.at(static_cast<uint>(from)) == contents.at(static_cast<uint>(from)))
+        ++from;
+    int to = length();
+    while (to > from && whole.at(static_cast<uint>(to) - 1) == contents.at(static_cast<uint>(to) - 1))
+        --to;
+    deselect();
+    if (from < to)
+        apply(removing ? Kind::Backspace : Kind::Insert, from, to - from,
+              whole.mid(static_cast<uint>(from), static_cast<uint>(to - from)));
+    place = cursorPlace;
+}
+
 void EditBuffer::undo()
 {
     deselect();

@@ -39,6 +39,8 @@ public:
     void removeBehind();
     void removeRest();
     void removeSelection();
+    // A text of the same length in place of this one.
+    void overwrite(const QString& whole, int cursorPlace, bool removing);
 
     bool canUndo() const { return done > 0; }
     bool canRedo() const { return done < static_cast<int>(history.size()); }

@@ -11,7 +11,7 @@ namespace zeltk
 void LineEditData::copySelection(bool toSelection) const
 {
     if (buffer.hasSelection() && echo == QLineEdit::Normal)
-        QApplication::clipboard()->setText(buffer.selectedText(),
+        QApplication::clipboard()->setText(selectedValue(),
                                            toSelection ? QClipboard::Selection : QClipboard::Clipboard);
 }
 
@@ -32,7 +32,10 @@ void QLineEdit::setCursorPosition(int position)
 
 void QLineEdit::cursorForward(bool mark, int steps)
 {
-    d->buffer.moveCursor(d->buffer.cursor() + steps, mark);
+    int to = d->buffer.cursor() + steps;
+    if (d->mask.isSet())
+        to = steps > 0 ? d->mask.placeFrom(to) : QMAX(0, d->mask.placeBefore(to + 1));
+    d->buffer.moveCursor(to, mark);
     d->finish(this);
 }
 
@@ -72,7 +75,7 @@ bool QLineEdit::hasSelectedText() const
 
 QString QLineEdit::selectedText() const
 {
-    return d->buffer.selectedText();
+    return d->selectedValue();
 }
 
 int QLineEdit::selectionStart() const

@@ -3,6 +3,7 @@
 #define ZELTK_LINEEDITDATA_H
 
 #include "widgets/editbuffer.h"
+#include "widgets/editmask.h"
 
 #include <qdatetime.h>
 #include <qguardedptr.h>
@@ -14,6 +15,7 @@ namespace zeltk
 
 struct LineEditData {
     EditBuffer buffer;
+    EditMask mask;
     int maxLength = 32767;
     bool readOnly = false;
     QLineEdit::EchoMode echo = QLineEdit::Normal;
@@ -33,6 +35,16 @@ struct LineEditData {
     void finish(QLineEdit* edit);
     void finish(QLineEdit* edit, const EditBuffer& before);
     QString shown() const;
+    // What the program is told: with a mask, without its blanks.
+    QString value() const;
+    QString selectedValue() const;
+    void setValue(const QString& text);
+    // Edit at the cursor, in place of the selection.
+    void insert(const QString& text);
+    void removeBefore();
+    void removeBehind();
+    void removeRest();
+    void empty(int from, int count, int cursor);
     QRect lineRect(const QLineEdit* edit) const;
     // Moves the text so that the cursor can be seen; only painting does it.
     void keepCursorInSight(const QLineEdit* edit);

@@ -40,14 +40,16 @@ void QLineEdit::returnKey()
         emit returnPressed();
         return;
     }
-    QString text = d->buffer.text();
+    if (!d->validator)
+        return;
+    QString text = d->value();
     int cursor = d->buffer.cursor();
     if (d->validator->validate(text, cursor) == QValidator::Acceptable)
         return;
     d->validator->fixup(text);
-    if (text == d->buffer.text())
+    if (text == d->value())
         return;
-    d->buffer.setText(text);
+    d->setValue(text);
     d->finish(this);
     if (hasAcceptableInput())
         emit returnPressed();
@@ -157,7 +159,7 @@ bool QLineEdit::controlEditKey(int key)
         backspace();
         break;
     case Key_K:
-        d->buffer.removeRest();
+        d->removeRest();
         d->finish(this, before);
         break;
     case Key_U:

@@ -22,7 +22,7 @@ void LineEditData::finish(QLineEdit* edit)
     const bool selectionChanged = buffer.takeSelectionChanged();
     edit->repaint(false);
     if (textChanged)
-        emit edit->textChanged(buffer.text());
+        emit edit->textChanged(value());
     if (alive && selectionChanged)
         emit edit->selectionChanged();
 }
@@ -30,13 +30,13 @@ void LineEditData::finish(QLineEdit* edit)
 void LineEditData::finish(QLineEdit* edit, const EditBuffer& before)
 {
     if (validator) {
-        QString text = buffer.text();
+        QString text = value();
         int cursor = buffer.cursor();
         if (validator->validate(text, cursor) == QValidator::Invalid) {
             buffer = before;
             buffer.deselect();
-        } else if (!(text == buffer.text())) {
-            buffer.setText(text);
+        } else if (!(text == value())) {
+            setValue(text);
             buffer.moveCursor(cursor, false);
         } else if (cursor != buffer.cursor()) {
             buffer.moveCursor(cursor, false);
@@ -59,6 +59,14 @@ QLineEdit::QLineEdit(const QString& contents, QWidget* parent, const char* name)
     setText(contents);
 }
 
+QLineEdit::QLineEdit(const QString& contents, const QString& inputMask, QWidget* parent, const char* name)
+    : QFrame(parent, name, WNoAutoErase)
+{
+    init();
+    setInputMask(inputMask);
+    setText(contents);
+}
+
 QLineEdit::~QLineEdit()
 {
     delete d;
@@ -77,7 +85,7 @@ void QLineEdit::init()
 
 QString QLineEdit::text() const
 {
-    const QString& text = d->buffer.text();
+    const QString text = d->value();
     return text.isNull() ? QString("") : text;
 }
 
@@ -88,7 +96,7 @@ QString QLineEdit::displayText() const
 
 void QLineEdit::setText(const QString& text)
 {
-    d->buffer.setText(text.left(static_cast<uint>(QMAX(d->maxLength, 0))));
+    d->setValue(text);
     d->finish(this);
 }
 
@@ -99,19 +107,31 @@ void QLineEdit::clear()
     const EditBuffer before = d->buffer;
     d->buffer.moveCursor(0, false);
     d->buffer.moveCursor(d->buffer.length(), true);
-    d->buffer.removeSelection();
+    d->removeBehind();
     d->finish(this, before);
+}
+
+QString QLineEdit::inputMask() const
+{
+    return d->mask.pattern();
+}
+
+void QLineEdit::setInputMask(const QString& inputMask)
+{
+    const QString text = d->value();
+    d->mask = zeltk::EditMask(inputMask);
+    setText(text);
 }
 
 int QLineEdit::maxLength() const
 {
-    return d->maxLength;
+    return d->mask.isSet() ? d->mask.length() : d->maxLength;
 }
 
 void QLineEdit::setMaxLength(int length)
 {
     d->maxLength = length;
-    if (length < d->buffer.length())
+    if (!d->mask.isSet() && length < d->buffer.length())
         setText(d->buffer.text());
 }
 
@@ -166,9 +186,11 @@ void QLineEdit::clearValidator()
 
 bool QLineEdit::hasAcceptableInput() const
 {
+    if (d->mask.isSet() && !d->mask.isComplete(d->buffer.text()))
+        return false;
     if (!d->validator)
         return true;
-    QString text = d->buffer.text();
+    QString text = d->value();
     int cursor = d->buffer.cursor();
     return d->validator->validate(text, cursor) == QValidator::Acceptable;
 }
@@ -184,7 +206,7 @@ bool QLineEdit::validateAndSet(const QString& text, int cursor, int anchor, int 
     d->buffer.deselect();
     d->buffer.moveCursor(0, false);
     d->buffer.moveCursor(d->buffer.length(), true);
-    d->buffer.insert(text, d->maxLength);
+    d->insert(text);
     const int length = d->buffer.length();
     d->buffer.moveCursor(QMIN(anchor, length), false);
     d->buffer.moveCursor(QMIN(drag, length), true);
@@ -285,23 +307,23 @@ void QLineEdit::redo()
 void QLineEdit::insert(const QString& text)
 {
     const EditBuffer before = d->buffer;
-    d->buffer.insert(text, d->maxLength);
+    d->insert(text);
     d->finish(this, before);
 }
 
 void QLineEdit::backspace()
 {
     const EditBuffer before = d->buffer;
-    d->buffer.removeBefore();
-    if (d->buffer.text().length() != before.text().length())
+    d->removeBefore();
+    if (!(d->buffer.text() == before.text()) || d->buffer.cursor() != before.cursor())
         d->finish(this, before);
 }
 
 void QLineEdit::del()
 {
     const EditBuffer before = d->buffer;
-    d->buffer.removeBehind();
-    if (d->buffer.text().length() != before.text().length())
+    d->removeBehind();
+    if (!(d->buffer.text() == before.text()) || d->buffer.cursor() != before.cursor())
         d->finish(this, before);
 }
 

@@ -9,7 +9,7 @@ namespace zeltk
 namespace x11
 {
 
-// From now on each error goes to the handler as one line with the name of its request; the program goes on.
+// From now on each error goes to the handler as a text of four lines; the program goes on.
 // When the server goes away the program ends with a message and exit status 1.
 void watchErrors();
 typedef void (*ErrorHandler)(const std::string& text);
