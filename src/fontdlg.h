@@ -9,11 +9,11 @@ class QCheckBox;
 class QComboBox;
 class QLabel;
 
-//! The families that ZelFontDlg offers; a null pointer ends the table.
+//! The families that ZelFontDlg offers; a null pointer ends the table. \relates ZelFontDlg
 extern ZELKIT_EXPORT const char* Families[];
-//! The sizes in points that ZelFontDlg offers; a null pointer ends the table.
+//! The sizes in points that ZelFontDlg offers; a null pointer ends the table. \relates ZelFontDlg
 extern ZELKIT_EXPORT const char* Sizes[];
-//! The weights that ZelFontDlg offers, from light to heavy; a null pointer ends the table.
+//! The weights that ZelFontDlg offers, light to heavy; a null pointer ends the table. \relates ZelFontDlg
 extern ZELKIT_EXPORT const char* Weights[];
 
 /*!

@@ -6,8 +6,11 @@
 
 #include "zelexport.h"
 
-//! A push button that shows a colour in place of a text. The black-outlined swatch keeps five pixels from
-//! every edge.
+/*!
+ * \brief A push button that shows a colour in place of a text.
+ *
+ * The black-outlined swatch keeps five pixels from every edge.
+ */
 class ZELKIT_EXPORT ZelPushButton : public QPushButton
 {
     Q_OBJECT

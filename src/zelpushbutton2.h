@@ -5,7 +5,9 @@
 
 #include "zelexport.h"
 
-//! A push button that reports the Escape key.
+/*!
+ * \brief A push button that reports the Escape key.
+ */
 class ZELKIT_EXPORT ZelPushButton2 : public QPushButton
 {
     Q_OBJECT
