@@ -3,6 +3,7 @@
 #include <qcolordialog.h>
 #include <qfontmetrics.h>
 #include <qframe.h>
+#include <qguardedptr.h>
 #include <qlabel.h>
 #include <qscrollbar.h>
 
@@ -143,8 +144,9 @@ const QColor& ZelColorDlg::getColor()
 
 bool ZelColorDlg::modal()
 {
+    const QGuardedPtr<ZelColorDlg> alive(this); // the program goes on while the user chooses
     const QColor chosen = QColorDialog::getColor(getColor(), parentWidget(), "Internal color dialog");
-    if (!chosen.isValid())
+    if (!alive || !chosen.isValid())
         return false;
     panel->setPaletteBackgroundColor(chosen);
     return true;

@@ -2,6 +2,7 @@
 
 #include <qevent.h>
 #include <qfontmetrics.h>
+#include <qguardedptr.h>
 #include <qlabel.h>
 
 #include "colordlg.h"
@@ -146,17 +147,19 @@ const QColorGroup& ZelColorGroupDlg::getColorGroup()
     return colorGroup;
 }
 
-// The left button on a swatch lets the user choose its colour. A coupled swatch takes the same one.
+// The left button on a swatch lets the user choose its colour. A coupled swatch takes the same one. If this
+// dialog is destroyed meanwhile, so is the chooser.
 void ZelColorGroupDlg::chooseColor(const QMouseEvent* event, ZelFrame* swatch, ZelFrame* coupled)
 {
     if (event->button() != LeftButton)
         return;
-    ZelColorDlg dialog(swatch->paletteBackgroundColor(), this, "dlg");
-    if (!dialog.modal())
-        return;
-    swatch->setPaletteBackgroundColor(dialog.getColor());
-    if (coupled)
-        coupled->setPaletteBackgroundColor(dialog.getColor());
+    const QGuardedPtr<ZelColorDlg> chooser = new ZelColorDlg(swatch->paletteBackgroundColor(), this, "dlg");
+    if (chooser->modal()) {
+        swatch->setPaletteBackgroundColor(chooser->getColor());
+        if (coupled)
+            coupled->setPaletteBackgroundColor(chooser->getColor());
+    }
+    delete chooser;
 }
 
 void ZelColorGroupDlg::foregroundColorClick(QMouseEvent* event)

@@ -161,4 +161,18 @@ bool isViewable(unsigned long window)
     return XGetWindowAttributes(display(), window, &attributes) && attributes.map_state == IsViewable;
 }
 
+void closeWindow(QWidget* window)
+{
+    programFirst();
+    XEvent event = {};
+    event.xclient.type = ClientMessage;
+    event.xclient.window = window->winId();
+    event.xclient.message_type = XInternAtom(display(), "WM_PROTOCOLS", False);
+    event.xclient.format = 32;
+    event.xclient.data.l[0] = static_cast<long>(XInternAtom(display(), "WM_DELETE_WINDOW", False));
+    event.xclient.data.l[1] = CurrentTime;
+    XSendEvent(display(), window->winId(), False, NoEventMask, &event);
+    sync();
+}
+
 } // namespace xinput

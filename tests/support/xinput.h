@@ -39,6 +39,9 @@ void releaseAll();
 
 bool isViewable(unsigned long window);
 
+// Asks a window to close, as a window manager does when its close button is clicked.
+void closeWindow(QWidget* window);
+
 } // namespace xinput
 
 #endif

@@ -1,4 +1,5 @@
 // Choosing a colour, as a user does it in the standard dialog.
+#include "hands.h"
 #include "pixels.h"
 #include "printers.h"
 #include "waiting.h"
@@ -10,8 +11,6 @@
 #include <qlabel.h>
 #include <qlineedit.h>
 #include <qobjectlist.h>
-#include <qpushbutton.h>
-#include <qtimer.h>
 
 #include <X11/keysym.h>
 
@@ -23,53 +22,11 @@ namespace
 
 const QColor start(200, 100, 50);
 
-// The hands of the user while getColor() runs. They leave by Escape if the dialog is still there at the end.
-class Hands : public QObject
-{
-public:
-    explicit Hands(const std::function<void(QWidget*)>& doing) : work(doing) { startTimer(20); }
-    bool done = false;
-
-protected:
-    void timerEvent(QTimerEvent*) override
-    {
-        QWidget* dialog = QApplication::activeModalWidget();
-        if (!dialog || done)
-            return;
-        done = true;
-        killTimers();
-        waitFor([dialog] { return xinput::isViewable(dialog->winId()); });
-        dialog->setActiveWindow();
-        waitFor([dialog] { return dialog->isActiveWindow(); });
-        settle();
-        work(dialog);
-        settle();
-        if (QApplication::activeModalWidget()) {
-            ADD_FAILURE() << "the dialog stayed open";
-            xinput::typeKey(XK_Escape);
-        }
-    }
-
-private:
-    std::function<void(QWidget*)> work;
-};
-
 QColor choose(const std::function<void(QWidget*)>& work, const QColor& initial = start,
               QWidget* parent = nullptr, const char* name = nullptr)
 {
     Hands hands(work);
     return QColorDialog::getColor(initial, parent, name);
-}
-
-void press(QWidget* dialog, const char* text)
-{
-    QObjectList* buttons = dialog->queryList("QPushButton");
-    for (QObject* each = buttons->first(); each; each = buttons->next()) {
-        QPushButton* button = static_cast<QPushButton*>(each);
-        if (button->text() == text)
-            xinput::click(button, 10, 10);
-    }
-    delete buttons;
 }
 
 // The numbers in the fields: hue, saturation, value, red, green, blue.
@@ -113,15 +70,15 @@ TEST(ColorDialog, IsModalAndNamedAsAsked)
             EXPECT_EQ(&parent, dialog->parentWidget());
             EXPECT_TRUE(dialog->isModal());
             EXPECT_EQ("20 191 200 200 100 50", fields(dialog));
-            press(dialog, "Cancel");
+            clickButton(dialog, "Cancel");
         },
         start, &parent, "Given name");
 }
 
 TEST(ColorDialog, OkTakesTheColourAndCancelAndEscapeDoNot)
 {
-    EXPECT_EQ(start, choose([](QWidget* dialog) { press(dialog, "OK"); }));
-    EXPECT_FALSE(choose([](QWidget* dialog) { press(dialog, "Cancel"); }).isValid());
+    EXPECT_EQ(start, choose([](QWidget* dialog) { clickButton(dialog, "OK"); }));
+    EXPECT_FALSE(choose([](QWidget* dialog) { clickButton(dialog, "Cancel"); }).isValid());
     EXPECT_FALSE(choose([](QWidget*) { xinput::typeKey(XK_Escape); }).isValid());
 }
 
@@ -151,7 +108,7 @@ TEST(ColorDialog, HueSaturationAndValueMayBeTypedToo)
         EXPECT_EQ("240 255 100 0 0 100", fields(dialog));
         type(dialog, "qt_red_edit", "999");
         EXPECT_EQ("299 255 100 99 0 100", fields(dialog)) << "no number above 255";
-        press(dialog, "OK");
+        clickButton(dialog, "OK");
     });
     EXPECT_EQ(QColor(99, 0, 100), chosen);
 }
@@ -166,7 +123,7 @@ TEST(ColorDialog, WellsAreClicked)
         xinput::click(grid, 70, 36);
         settle();
         EXPECT_EQ("200 255 127 0 85 127", fields(dialog));
-        press(dialog, "OK");
+        clickButton(dialog, "OK");
     });
     EXPECT_EQ(QColor(0, 85, 127), chosen);
 }
@@ -205,7 +162,7 @@ TEST(ColorDialog, ThePickersChangeWhatTheyShow)
         xinput::releaseButton();
         settle();
         EXPECT_EQ("0 255 0 0 0 0", fields(dialog)) << "dragged to the lower end";
-        press(dialog, "OK");
+        clickButton(dialog, "OK");
     });
     EXPECT_EQ(Qt::black, chosen);
 }
@@ -215,12 +172,12 @@ TEST(ColorDialog, KeepsCustomColours)
     ASSERT_EQ(16, QColorDialog::customCount());
     EXPECT_EQ(qRgb(255, 255, 255), QColorDialog::customColor(0));
     choose([](QWidget* dialog) {
-        press(dialog, "&Add to Custom Colors");
+        clickButton(dialog, "&Add to Custom Colors");
         settle();
         type(dialog, "qt_red_edit", "100");
-        press(dialog, "&Add to Custom Colors");
+        clickButton(dialog, "&Add to Custom Colors");
         settle();
-        press(dialog, "Cancel");
+        clickButton(dialog, "Cancel");
     });
     EXPECT_EQ(start.rgb(), QColorDialog::customColor(0));
     EXPECT_EQ(qRgb(100, 100, 50), QColorDialog::customColor(1)) << "the next one";
@@ -230,12 +187,26 @@ TEST(ColorDialog, KeepsCustomColours)
     EXPECT_EQ(qRgb(1, 2, 3), QColorDialog::customColor(3));
 }
 
+TEST(ColorDialog, EndsWithItsParent)
+{
+    QWidget* parent = new QWidget;
+    Hands first([&](QWidget*) { delete parent; });
+    EXPECT_FALSE(QColorDialog::getColor(start, parent).isValid());
+
+    parent = new QWidget;
+    bool ok = true;
+    Hands second([&](QWidget*) { delete parent; });
+    EXPECT_EQ(start.rgb(), QColorDialog::getRgba(start.rgb(), &ok, parent));
+    EXPECT_FALSE(ok);
+    EXPECT_EQ(nullptr, QApplication::activeModalWidget());
+}
+
 TEST(ColorDialog, AsksForAnAlphaChannelIfWanted)
 {
     Hands hands([](QWidget* dialog) {
         EXPECT_EQ("210 170 30 10 20 30 128", fields(dialog));
         type(dialog, "qt_aplha_edit", "64");
-        press(dialog, "OK");
+        clickButton(dialog, "OK");
     });
     bool ok = false;
     EXPECT_EQ(qRgba(10, 20, 30, 64), QColorDialog::getRgba(qRgba(10, 20, 30, 128), &ok));

@@ -1,6 +1,8 @@
 // QColorDialog.
 #include "dialogs/colorpanel.h"
 
+#include <qguardedptr.h>
+
 QColorDialog::QColorDialog(QWidget* parent, const char* name, bool modal)
     : QDialog(parent, name, modal), d(new zeltk::ColorPanel(this))
 {
@@ -11,28 +13,35 @@ QColorDialog::QColorDialog(QWidget* parent, const char* name, bool modal)
 
 QColorDialog::~QColorDialog() {}
 
+// The dialogs of the next two functions may die with their parent before they are answered.
 QColor QColorDialog::getColor(const QColor& initial, QWidget* parent, const char* name)
 {
-    QColorDialog dialog(parent, name, true);
+    const QGuardedPtr<QColorDialog> dialog = new QColorDialog(parent, name, true);
     const QColor start = initial.isValid() ? initial : QColor(Qt::white);
-    dialog.setColor(start);
-    dialog.selectColor(start);
-    return dialog.exec() == Accepted ? dialog.color() : QColor();
+    dialog->setColor(start);
+    dialog->selectColor(start);
+    const QColor chosen = dialog->exec() == Accepted ? dialog->color() : QColor();
+    delete dialog;
+    return chosen;
 }
 
 QRgb QColorDialog::getRgba(QRgb initial, bool* ok, QWidget* parent, const char* name)
 {
-    QColorDialog dialog(parent, name, true);
-    dialog.setColor(QColor(initial & 0xffffff));
-    dialog.selectColor(QColor(initial & 0xffffff));
-    dialog.setSelectedAlpha(qAlpha(initial));
-    const bool accepted = dialog.exec() == Accepted;
+    const QGuardedPtr<QColorDialog> dialog = new QColorDialog(parent, name, true);
+    dialog->setColor(QColor(initial & 0xffffff));
+    dialog->selectColor(QColor(initial & 0xffffff));
+    dialog->setSelectedAlpha(qAlpha(initial));
+    const bool accepted = dialog->exec() == Accepted;
     if (ok)
         *ok = accepted;
-    if (!accepted)
+    if (!accepted) {
+        delete dialog;
         return initial;
-    const QColor color = dialog.color();
-    return qRgba(color.red(), color.green(), color.blue(), dialog.selectedAlpha());
+    }
+    const QColor color = dialog->color();
+    const int alpha = dialog->selectedAlpha();
+    delete dialog;
+    return qRgba(color.red(), color.green(), color.blue(), alpha);
 }
 
 void QColorDialog::setColor(const QColor& color)

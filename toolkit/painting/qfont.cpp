@@ -7,7 +7,9 @@
 #include "x11/connection.h"
 #include "x11/fonts.h"
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 #include <map>
 
 using zeltk::FontData;
@@ -15,13 +17,19 @@ using zeltk::FontData;
 namespace
 {
 
+// What is too large for an int is the largest that fits.
+int roundedSize(double size)
+{
+    return qRound(std::min(size, static_cast<double>(std::numeric_limits<int>::max())));
+}
+
 FontData* newData(const QString& family, int pointSize, int weight, bool italic, int set)
 {
     FontData* data = new FontData;
     data->references = 1;
     data->set = set;
     data->family = family;
-    data->tenths = pointSize * 10;
+    data->tenths = roundedSize(pointSize * 10.0);
     data->pixelSize = -1;
     data->weight = weight;
     data->italic = italic;
@@ -94,7 +102,7 @@ int pixelSizeOf(const QFont& font)
     const FontData* data = FontAccess::data(font);
     if (data->pixelSize > 0)
         return data->pixelSize;
-    return qRound(data->tenths * x11::dpiY() / 720.0);
+    return roundedSize(static_cast<double>(data->tenths) * x11::dpiY() / 720.0);
 }
 
 const x11::Font* faceOf(const QFont& font)
@@ -173,7 +181,7 @@ void QFont::setFamily(const QString& family)
 
 int QFont::pointSize() const
 {
-    return d->tenths < 0 ? -1 : (d->tenths + 5) / 10;
+    return d->tenths < 0 ? -1 : qRound(d->tenths / 10.0);
 }
 
 float QFont::pointSizeFloat() const
@@ -197,7 +205,7 @@ void QFont::setPointSizeFloat(float size)
         return;
     }
     detach();
-    d->tenths = qRound(static_cast<double>(size) * 10.0);
+    d->tenths = roundedSize(static_cast<double>(size) * 10.0);
     d->pixelSize = -1;
     d->set |= FontData::Size;
 }

@@ -29,6 +29,9 @@ int fontconfigWeight(int weight)
 // Faces above this size are not measured.
 constexpr int largestMeasured = 256;
 
+// No text is larger, whatever is asked for: its glyphs would no longer fit into a request to the server.
+constexpr int largestFace = 3000;
+
 FcPattern* patternOf(const FontRequest& request, int pixelSize)
 {
     FcPattern* pattern = FcPatternCreate();
@@ -94,12 +97,13 @@ bool isBoxed(const Font* font, char16_t c)
 const Font* openFont(const FontRequest& request)
 {
     static std::map<Key, std::unique_ptr<Font>> fonts;
-    const Key key(request.families, request.pixelSize, fontconfigWeight(request.weight), request.italic,
+    const int pixelSize = std::min(request.pixelSize, largestFace);
+    const Key key(request.families, pixelSize, fontconfigWeight(request.weight), request.italic,
                   request.antialias);
     std::unique_ptr<Font>& font = fonts[key];
     if (font)
         return font.get();
-    XftFont* face = openFace(request, request.pixelSize);
+    XftFont* face = openFace(request, pixelSize);
     if (!face) {
         reportNoFont();
         return nullptr;
@@ -107,10 +111,10 @@ const Font* openFont(const FontRequest& request)
     font.reset(new Font);
     font->face = font->measured = face;
     font->scale = 1.0;
-    font->pixelSize = request.pixelSize;
-    if (request.pixelSize > largestMeasured) {
+    font->pixelSize = pixelSize;
+    if (pixelSize > largestMeasured) {
         font->measured = openFace(request, largestMeasured);
-        font->scale = static_cast<double>(request.pixelSize) / largestMeasured;
+        font->scale = static_cast<double>(pixelSize) / largestMeasured;
     }
     return font.get();
 }
