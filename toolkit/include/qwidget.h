@@ -17,6 +17,7 @@ class QContextMenuEvent;
 class QFocusEvent;
 class QHideEvent;
 class QKeyEvent;
+class QLayout;
 class QMouseEvent;
 class QMoveEvent;
 class QPaintEvent;
@@ -214,6 +215,8 @@ public:
     }
     virtual int heightForWidth(int width) const;
     QRegion clipRegion() const;
+    //! The layout that arranges the children; null if there is none.
+    QLayout* layout() const;
     //! To be called when a size hint has changed.
     void updateGeometry();
 

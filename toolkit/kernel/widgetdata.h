@@ -7,6 +7,8 @@
 
 #include <vector>
 
+class QLayout;
+
 namespace zeltk
 {
 
@@ -21,6 +23,7 @@ struct WidgetData {
     QSize step = QSize(0, 0);
     QSize base = QSize(0, 0);
     QSizePolicy policy = QSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    QLayout* layout = nullptr;
     bool placed = false;               // the program chose the place
     bool mapped = false;               // the server was told to show the window
     bool takenAway = false;            // by the window manager, after the program had shown it

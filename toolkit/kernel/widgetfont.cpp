@@ -2,6 +2,7 @@
 #include "kernel/widgetdata.h"
 
 #include <qapplication.h>
+#include <qevent.h>
 
 using zeltk::childWidgets;
 using zeltk::dataOf;
@@ -27,6 +28,8 @@ void changeFont(QWidget* widget, const QFont& font)
     for (QWidget* child : childWidgets(widget)) {
         if (child->isTopLevel())
             continue;
+        QEvent news(QEvent::ParentFontChange);
+        QApplication::sendEvent(child, &news);
         WidgetData* childData = dataOf(child);
         if (childData->ownFont) {
             changeFont(child, childData->askedFont.resolve(font));
@@ -78,6 +81,7 @@ void QWidget::unsetFont()
 void QWidget::fontChange(const QFont&)
 {
     update();
+    updateGeometry();
 }
 
 QFontMetrics QWidget::fontMetrics() const

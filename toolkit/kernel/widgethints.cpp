@@ -4,15 +4,21 @@
 
 #include <qapplication.h>
 #include <qevent.h>
+#include <qlayout.h>
+
+QLayout* QWidget::layout() const
+{
+    return w->layout;
+}
 
 QSize QWidget::sizeHint() const
 {
-    return QSize(-1, -1);
+    return w->layout ? w->layout->totalSizeHint() : QSize(-1, -1);
 }
 
 QSize QWidget::minimumSizeHint() const
 {
-    return QSize(-1, -1);
+    return w->layout ? w->layout->totalMinimumSize() : QSize(-1, -1);
 }
 
 QSizePolicy QWidget::sizePolicy() const
@@ -22,15 +28,15 @@ QSizePolicy QWidget::sizePolicy() const
 
 void QWidget::setSizePolicy(QSizePolicy policy)
 {
-    if (policy == w->policy)
+    if (policy == sizePolicy())
         return;
     w->policy = policy;
     updateGeometry();
 }
 
-int QWidget::heightForWidth(int) const
+int QWidget::heightForWidth(int width) const
 {
-    return 0;
+    return w->layout && w->layout->hasHeightForWidth() ? w->layout->totalHeightForWidth(width) : 0;
 }
 
 void QWidget::updateGeometry()
@@ -39,22 +45,31 @@ void QWidget::updateGeometry()
         QApplication::postEvent(parentWidget(), new QEvent(QEvent::LayoutHint));
 }
 
+namespace
+{
+
 // A window that wants to grow gets a useful size, none covers the screen.
+QSize windowSize(const QWidget* window, QSize wanted)
+{
+    QLayout* const layout = window->layout();
+    const int directions = layout ? layout->expanding() : window->sizePolicy().expanding();
+    if (directions & QSizePolicy::Horizontally)
+        wanted.setWidth(QMAX(wanted.width(), 200));
+    if (layout && layout->hasHeightForWidth())
+        wanted.setHeight(layout->totalHeightForWidth(wanted.width()));
+    if (directions & QSizePolicy::Vertically)
+        wanted.setHeight(QMAX(wanted.height(), 150));
+    return wanted.boundedTo(QSize(zeltk::x11::screenWidth() * 2 / 3, zeltk::x11::screenHeight() * 2 / 3));
+}
+
+} // namespace
+
 void QWidget::adjustSize()
 {
     constPolish();
-    QSize wanted = sizeHint();
-    if (isTopLevel() && wanted.isValid()) {
-        const int directions = sizePolicy().expanding();
-        if (directions & QSizePolicy::Horizontally)
-            wanted.setWidth(QMAX(wanted.width(), 200));
-        if (directions & QSizePolicy::Vertically)
-            wanted.setHeight(QMAX(wanted.height(), 150));
-        wanted =
-            wanted.boundedTo(QSize(zeltk::x11::screenWidth() * 2 / 3, zeltk::x11::screenHeight() * 2 / 3));
-    }
-    if (wanted.isValid()) {
-        resize(wanted);
+    const QSize wanted = sizeHint();
+    if (wanted.isValid() && !wanted.isNull()) {
+        resize(isTopLevel() ? windowSize(this, wanted) : wanted);
         return;
     }
     const QRect children = childrenRect();

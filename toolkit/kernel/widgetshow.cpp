@@ -130,6 +130,8 @@ void QWidget::show()
         takeFirstSize(this);
     deliver(this, QEvent::Move);
     deliver(this, QEvent::Resize);
+    if (layout())
+        deliver(this, QEvent::Resize); // the layout may have enlarged it
     if (container)
         deliver(container, QEvent::ChildInserted);
     setWState(WState_Visible);

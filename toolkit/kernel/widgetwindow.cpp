@@ -114,8 +114,6 @@ void describeWindow(QWidget* widget)
 void applySizeHints(QWidget* widget)
 {
     const WidgetData* data = dataOf(widget);
-    if (!data->described)
-        return;
     const auto limit = [](int value) { return value < QWIDGETSIZE_MAX ? value : 0; };
     x11::SizeHints hints;
     hints.x = widget->x();

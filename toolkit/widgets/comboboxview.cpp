@@ -17,7 +17,7 @@ QSize QComboBox::sizeHint() const
 {
     constPolish();
     const QFontMetrics metrics = fontMetrics();
-    int width = 7 * metrics.width('x') + 18;
+    int width = 18 + (count() ? 0 : 7 * metrics.width('x'));
     int height = std::max(metrics.lineSpacing(), 14) + 2;
     for (int i = 0; i < count(); ++i) {
         const QListBoxItem* item = d->list->item(i);

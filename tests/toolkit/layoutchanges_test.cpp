@@ -1,0 +1,374 @@
+// What a layout does when its children or its window change.
+#include "eventlog.h"
+#include "layoutkid.h"
+#include "messages.h"
+#include "printers.h"
+#include "sentevents.h"
+#include "waiting.h"
+
+#include <gtest/gtest.h>
+#include <qapplication.h>
+#include <qdialog.h>
+#include <qlabel.h>
+#include <qlayout.h>
+
+#include <memory>
+
+namespace
+{
+
+// A row of three in a panel of 200 by 100.
+class Row : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        panel->setGeometry(0, 0, 200, 100);
+        for (Kid* kid : {a, b, c})
+            row->addWidget(kid);
+        showAndWait(&window);
+    }
+    std::string settled()
+    {
+        settle();
+        return places(panel);
+    }
+
+    QWidget window;
+    QWidget* panel = new QWidget(&window, "panel");
+    QHBoxLayout* row = new QHBoxLayout(panel, 5, 4, "row");
+    Kid* a = new Kid(panel, preferred, QSize(30, 20));
+    Kid* b = new Kid(panel, expanding, QSize(20, 20));
+    Kid* c = new Kid(panel, fixed, QSize(10, 40));
+};
+
+TEST_F(Row, HiddenChildTakesNoRoom)
+{
+    EXPECT_EQ(settled(), "5,5 30x90 | 39,5 142x90 | 185,30 10x40");
+    b->hide();
+    EXPECT_EQ(settled(), "5,5 176x90 | 39,5 142x90* | 185,30 10x40");
+    EXPECT_EQ(row->sizeHint(), QSize(54, 50));
+    b->show();
+    EXPECT_EQ(settled(), "5,5 30x90 | 39,5 142x90 | 185,30 10x40");
+}
+
+TEST_F(Row, WaitsForTheEventLoop)
+{
+    b->hide();
+    EXPECT_EQ(places(panel), "5,5 30x90 | 39,5 142x90* | 185,30 10x40");
+    EXPECT_TRUE(row->activate());
+    EXPECT_EQ(places(panel), "5,5 176x90 | 39,5 142x90* | 185,30 10x40");
+}
+
+TEST_F(Row, FollowsTheSizesOfItsChildren)
+{
+    a->setMinimumWidth(70);
+    EXPECT_EQ(settled(), "5,5 70x90 | 79,5 102x90 | 185,30 10x40");
+    c->setFixedSize(33, 22);
+    EXPECT_EQ(settled(), "5,5 70x90 | 79,5 79x90 | 162,39 33x22");
+    a->setHint(QSize(90, 50));
+    EXPECT_EQ(settled(), "5,5 70x90 | 79,5 79x90 | 162,39 33x22") << "nobody has said so";
+    a->updateGeometry();
+    EXPECT_EQ(settled(), "5,5 90x90 | 99,5 59x90 | 162,39 33x22");
+}
+
+TEST_F(Row, FollowsItsOwnSettings)
+{
+    row->setSpacing(20);
+    EXPECT_EQ(settled(), "5,5 30x90 | 55,5 110x90 | 185,30 10x40");
+    row->setMargin(1);
+    EXPECT_EQ(settled(), "1,1 30x98 | 51,1 118x98 | 189,30 10x40");
+    row->setDirection(QBoxLayout::RightToLeft);
+    EXPECT_EQ(settled(), "169,1 30x98 | 31,1 118x98 | 1,30 10x40");
+    row->setDirection(QBoxLayout::TopToBottom);
+    EXPECT_EQ(settled(), "1,1 198x9 | 1,30 198x9 | 1,59 10x40");
+}
+
+TEST_F(Row, DeletedChildLeavesNoGap)
+{
+    delete b;
+    EXPECT_EQ(settled(), "5,5 176x90 | 185,30 10x40");
+    delete a;
+    EXPECT_EQ(settled(), "95,30 10x40");
+}
+
+TEST_F(Row, ChildThatWasAddedTwiceLeavesNothing)
+{
+    row->addWidget(b);
+    row->addStretch();
+    delete b;
+    EXPECT_EQ(settled(), "5,5 30x90 | 39,30 10x40");
+    row->remove(nullptr);
+    EXPECT_EQ(settled(), "5,5 30x90 | 39,30 10x40") << "a stretch is no widget";
+}
+
+TEST_F(Row, ChildThatMovesToAnotherParentLeavesTheLayout)
+{
+    b->reparent(&window, QPoint(0, 0), true);
+    EXPECT_EQ(settled(), "5,5 176x90 | 185,30 10x40");
+    EXPECT_EQ(row->findWidget(b), -1);
+}
+
+TEST_F(Row, RemovedChildStaysWhereItIs)
+{
+    row->remove(b);
+    EXPECT_EQ(settled(), "5,5 176x90 | 39,5 142x90 | 185,30 10x40");
+}
+
+TEST_F(Row, DisabledLayoutLeavesEverythingAlone)
+{
+    row->setEnabled(false);
+    panel->resize(150, 80);
+    EXPECT_EQ(settled(), "5,5 30x90 | 39,5 142x90 | 185,30 10x40");
+    EXPECT_FALSE(row->activate());
+    row->setEnabled(true);
+    EXPECT_TRUE(row->activate());
+    EXPECT_EQ(places(panel), "5,5 30x70 | 39,5 92x70 | 135,20 10x40");
+}
+
+TEST_F(Row, DeletedLayoutLeavesTheChildrenAlone)
+{
+    delete row;
+    EXPECT_EQ(panel->layout(), nullptr);
+    panel->resize(250, 140);
+    EXPECT_EQ(settled(), "5,5 30x90 | 39,5 142x90 | 185,30 10x40");
+    QVBoxLayout* const column = new QVBoxLayout(panel);
+    column->addWidget(b);
+    panel->resize(60, 30);
+    EXPECT_EQ(b->geometry(), QRect(0, 0, 60, 30));
+}
+
+TEST_F(Row, SecondLayoutIsRefused)
+{
+    QVBoxLayout second(panel, 1, 1, "second");
+    EXPECT_EQ(takeMessages(), "QLayout \"second\" added to QWidget \"panel\", which already has a layout\n");
+    EXPECT_EQ(panel->layout(), row);
+    EXPECT_EQ(second.mainWidget(), nullptr);
+}
+
+TEST_F(Row, WidgetIsNotItsOwnChild)
+{
+    row->addWidget(panel);
+    row->addWidget(nullptr);
+    EXPECT_EQ(row->findWidget(panel), -1);
+    EXPECT_NE(takeMessages(), "");
+}
+
+TEST_F(Row, NewChildIsAddedByItselfIfWished)
+{
+    row->setAutoAdd(true);
+    Kid* const d = new Kid(panel, fixed, QSize(15, 15));
+    EXPECT_EQ(row->findWidget(d), -1) << "not before the event loop";
+    d->show();
+    EXPECT_EQ(settled(), "5,5 30x90 | 39,5 123x90 | 166,30 10x40 | 180,42 15x15");
+}
+
+TEST_F(Row, FontOfTheWindowReachesTheHints)
+{
+    QLabel* const label = new QLabel("Words", panel);
+    row->addWidget(label);
+    label->show();
+    settle();
+    const int before = label->width();
+    QFont large = panel->font();
+    large.setPointSize(30);
+    window.setFont(large);
+    settle();
+    EXPECT_GT(label->width(), 2 * before);
+    EXPECT_EQ(label->x() + label->width(), 195);
+}
+
+TEST_F(Row, OneRequestIsEnoughForManyChanges)
+{
+    EventCount hints(panel, QEvent::LayoutHint);
+    EventCount moves(c, QEvent::Move);
+    a->setMinimumWidth(50);
+    b->setMinimumWidth(120);
+    c->setFixedSize(20, 20);
+    settle();
+    EXPECT_EQ(hints.take(), 1);
+    EXPECT_EQ(moves.take(), 1);
+    a->setMinimumWidth(50);
+    settle();
+    EXPECT_EQ(hints.take(), 0) << "nothing has changed";
+}
+
+TEST(LayoutEvents, WindowIsArrangedBeforeItIsSeen)
+{
+    EventLog log;
+    LoggedWidget window(&log, nullptr, "window");
+    window.setGeometry(10, 10, 20, 20);
+    LoggedWidget child(&log, &window, "child");
+    child.setMinimumSize(60, 40);
+    QVBoxLayout column(&window, 3);
+    column.addWidget(&child);
+    window.show();
+    const std::string events = log.take();
+    const size_t arranged = events.find("child Resize");
+    EXPECT_NE(events.find("window Resize 66x46 from 20x20"), std::string::npos) << events;
+    EXPECT_NE(arranged, std::string::npos) << events;
+    EXPECT_LT(arranged, events.find("window Show")) << events;
+    EXPECT_EQ(child.geometry(), QRect(3, 3, 60, 40));
+}
+
+// A window with two children, one of which may not be made lower.
+class Window : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        column->addWidget(new Kid(&window, preferred, QSize(50, 30), QSize(20, 10)));
+        column->addWidget(
+            new Kid(&window, policy(QSizePolicy::Minimum, QSizePolicy::Minimum), QSize(40, 25)));
+    }
+    Kid* addWide()
+    {
+        Kid* const wide = new Kid(&window, fixed, QSize(90, 20));
+        column->addWidget(wide);
+        wide->show();
+        settle();
+        return wide;
+    }
+    QSize resized(int w, int h)
+    {
+        window.resize(w, h);
+        settle();
+        return window.size();
+    }
+
+    QWidget window;
+    QVBoxLayout* column = new QVBoxLayout(&window, 3, 2);
+};
+
+TEST_F(Window, StartsWithItsSizeHintAndKeepsItsMinimum)
+{
+    showAndWait(&window);
+    EXPECT_EQ(window.size(), QSize(56, 63));
+    EXPECT_EQ(resized(10, 10), QSize(46, 43));
+    EXPECT_EQ(resized(200, 200), QSize(200, 200));
+    delete addWide();
+    settle();
+    EXPECT_EQ(resized(1, 1), QSize(46, 43));
+    addWide();
+    EXPECT_EQ(window.size(), QSize(96, 65)) << "it grows when it must";
+}
+
+TEST_F(Window, SizeOfTheProgramCountsBeforeTheHint)
+{
+    window.resize(300, 200);
+    showAndWait(&window);
+    EXPECT_EQ(window.size(), QSize(300, 200));
+}
+
+TEST_F(Window, FreeResizeKeepsNothing)
+{
+    column->setResizeMode(QLayout::FreeResize);
+    showAndWait(&window);
+    EXPECT_EQ(resized(10, 10), QSize(10, 10));
+    addWide();
+    EXPECT_EQ(window.minimumSize(), QSize(0, 0));
+}
+
+TEST_F(Window, FixedWindowIsAlwaysItsSizeHint)
+{
+    column->setResizeMode(QLayout::Fixed);
+    showAndWait(&window);
+    EXPECT_EQ(resized(200, 200), QSize(56, 63));
+    addWide();
+    EXPECT_EQ(window.size(), QSize(96, 85));
+    EXPECT_EQ(window.minimumSize(), window.maximumSize());
+}
+
+TEST_F(Window, FrozenToASize)
+{
+    column->freeze(77, 66);
+    EXPECT_EQ(window.size(), QSize(77, 66));
+    EXPECT_EQ(window.maximumSize(), QSize(77, 66));
+}
+
+TEST_F(Window, AdjustsToWhatTheLayoutWants)
+{
+    showAndWait(&window);
+    resized(200, 200);
+    window.adjustSize();
+    EXPECT_EQ(window.size(), QSize(56, 63));
+    EXPECT_EQ(window.sizeHint(), QSize(56, 63));
+    EXPECT_EQ(window.minimumSizeHint(), QSize(46, 43));
+}
+
+TEST(LayoutWindow, OneThatWantsToExpandIsOfUsefulSize)
+{
+    QWidget window;
+    QVBoxLayout column(&window, 8);
+    column.addWidget(new Kid(&window, expanding, QSize(10, 10)));
+    showAndWait(&window);
+    EXPECT_EQ(window.size(), QSize(200, 150));
+}
+
+TEST(LayoutWindow, NoneCoversTheScreen)
+{
+    QWidget window;
+    QVBoxLayout column(&window);
+    column.addWidget(new Kid(&window, preferred, QSize(20000, 15000), QSize(10, 10)));
+    showAndWait(&window);
+    const QSize screen = QApplication::desktop()->size();
+    EXPECT_EQ(window.size(), QSize(screen.width() * 2 / 3, screen.height() * 2 / 3));
+}
+
+TEST(LayoutWindow, DialogIsArrangedToo)
+{
+    QDialog dialog;
+    QVBoxLayout column(&dialog, 11, 6);
+    Kid kid(&dialog, preferred, QSize(123, 45));
+    column.addWidget(&kid);
+    showAndWait(&dialog);
+    EXPECT_EQ(dialog.size(), QSize(145, 67));
+    EXPECT_EQ(kid.geometry(), QRect(11, 11, 123, 45));
+}
+
+TEST(LayoutWindow, ChangeDeepInsideReachesTheWindow)
+{
+    QWidget window;
+    QVBoxLayout outer(&window, 4, 3);
+    QWidget* const inside = new QWidget(&window);
+    outer.addWidget(new Kid(&window, expanding, QSize(40, 40)));
+    outer.addWidget(inside);
+    QHBoxLayout* const row = new QHBoxLayout(inside, 2, 1);
+    row->addWidget(new Kid(inside, fixed, QSize(20, 30)));
+    showAndWait(&window);
+    EXPECT_EQ(window.minimumSize(), QSize(32, 46));
+    Kid* const more = new Kid(inside, fixed, QSize(300, 200));
+    row->addWidget(more);
+    more->show();
+    ASSERT_TRUE(waitFor([&] { return window.width() == 333; })) << window.width();
+    EXPECT_EQ(window.minimumSize(), QSize(333, 216));
+    delete more;
+    EXPECT_TRUE(waitFor([&] { return window.minimumSize() == QSize(32, 46); }));
+}
+
+TEST(LayoutWindow, GoesWithItsLayoutsAndChildrenInAnyOrder)
+{
+    for (int order = 0; order < 4; ++order) {
+        std::unique_ptr<QWidget> window(new QWidget);
+        QVBoxLayout* const outer = new QVBoxLayout(window.get());
+        QHBoxLayout* const inner = new QHBoxLayout(outer);
+        Kid* const kid = new Kid(window.get(), preferred, QSize(10, 10));
+        inner->addWidget(kid);
+        showAndWait(window.get());
+        if (order == 0)
+            delete kid;
+        else if (order == 1)
+            delete inner;
+        else if (order == 2)
+            delete outer;
+        settle();
+        window->resize(77, 77);
+        if (order == 1) {
+            EXPECT_EQ(outer->iterator().current(), nullptr);
+        }
+        window.reset();
+        settle();
+    }
+}
+
+} // namespace

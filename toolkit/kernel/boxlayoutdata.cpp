@@ -1,0 +1,137 @@
+// Box layouts: what the items of a row or column need together.
+#include "kernel/boxlayoutdata.h"
+
+using zeltk::BoxItem;
+using zeltk::Share;
+
+namespace
+{
+
+bool isHidden(QLayoutItem* item)
+{
+    return item->isEmpty() && item->widget();
+}
+
+// No sum of lengths overflows.
+int bounded(int length)
+{
+    return QMAX(0, QMIN(length, QLAYOUTSIZE_MAX));
+}
+
+Share shareOf(const BoxItem& box, bool horizontal)
+{
+    const QSize hint = box.item->sizeHint();
+    const QSize least = box.item->minimumSize();
+    const QSize most = box.item->maximumSize();
+    Share share;
+    share.hint = bounded(horizontal ? hint.width() : hint.height());
+    share.minimum = bounded(horizontal ? least.width() : least.height());
+    share.maximum = QMAX(share.minimum, bounded(horizontal ? most.width() : most.height()));
+    share.stretch = isHidden(box.item) ? 0 : QMAX(0, box.stretch);
+    share.expanding =
+        box.item->expanding() & (horizontal ? QSizePolicy::Horizontally : QSizePolicy::Vertically);
+    share.empty = box.item->isEmpty();
+    return share;
+}
+
+// Sizes of a whole box: the sum one way, a limit the other.
+class Extent
+{
+public:
+    Extent(bool horizontal, int across) : horizontal_(horizontal), across_(across) {}
+
+    void add(int along) { along_ = QMIN(along_ + along, QLAYOUTSIZE_MAX); }
+    void atLeast(const QSize& item) { across_ = QMAX(across_, side(item)); }
+    // Where some expand the others do not hold them back.
+    void atMost(const QSize& item, bool expands)
+    {
+        if (expands != expanding_ && expands)
+            across_ = side(item);
+        else if (expands == expanding_)
+            across_ = expands ? QMAX(across_, side(item)) : QMIN(across_, side(item));
+        expanding_ = expanding_ || expands;
+    }
+    QSize size() const { return horizontal_ ? QSize(along_, across_) : QSize(across_, along_); }
+
+private:
+    int side(const QSize& item) const { return bounded(horizontal_ ? item.height() : item.width()); }
+
+    bool horizontal_;
+    bool expanding_ = false;
+    int along_ = 0;
+    int across_;
+};
+
+} // namespace
+
+void zeltk::BoxLayoutData::measure(int spacing)
+{
+    if (!dirty)
+        return;
+    dirty = false;
+    row.clear();
+    expanding = 0;
+    hasHeightForWidth = false;
+    const bool h = horizontal();
+    const int along = h ? QSizePolicy::Horizontally : QSizePolicy::Vertically;
+    const int across = along ^ QSizePolicy::BothDirections;
+    Extent all(h, 0);
+    Extent least(h, 0);
+    Extent most(h, QLAYOUTSIZE_MAX);
+    bool first = true;
+    for (const BoxItem& box : items) {
+        const Share share = shareOf(box, h);
+        row.push_back(share);
+        const int gap = share.empty || first ? 0 : spacing;
+        first = first && share.empty;
+        all.add(share.hint + gap);
+        least.add(share.minimum + gap);
+        most.add(bounded(h ? box.item->maximumSize().width() : box.item->maximumSize().height()) + gap);
+        expanding |= box.item->expanding() | (share.stretch > 0 ? along : 0);
+        if (!share.empty)
+            hasHeightForWidth = hasHeightForWidth || box.item->hasHeightForWidth();
+        if (isHidden(box.item))
+            continue;
+        all.atLeast(box.item->sizeHint());
+        least.atLeast(box.item->minimumSize());
+        most.atMost(box.item->maximumSize(), box.item->expanding() & across);
+    }
+    minimum = least.size();
+    maximum = most.size().expandedTo(minimum);
+    hint = all.size().boundedTo(maximum).expandedTo(minimum);
+}
+
+std::vector<zeltk::Share> zeltk::BoxLayoutData::rowFor(int width) const
+{
+    std::vector<Share> result = row;
+    if (!hasHeightForWidth || horizontal())
+        return result;
+    for (size_t i = 0; i < items.size(); ++i)
+        if (items[i].item->hasHeightForWidth())
+            result[i].hint = result[i].minimum = items[i].item->heightForWidth(width);
+    return result;
+}
+
+void zeltk::BoxLayoutData::heights(int width, int spacing, int& height, int& least) const
+{
+    height = least = 0;
+    if (!horizontal()) {
+        bool first = true;
+        for (const Share& share : rowFor(width)) {
+            const int gap = share.empty || first ? 0 : spacing;
+            first = first && share.empty;
+            height += share.hint + gap;
+            least += share.minimum + gap;
+        }
+        return;
+    }
+    std::vector<Share> shared = row;
+    shareSpace(shared, 0, width, spacing);
+    for (size_t i = 0; i < items.size(); ++i) {
+        QLayoutItem* const item = items[i].item;
+        const bool depends = item->hasHeightForWidth();
+        const int high = depends ? item->heightForWidth(shared[i].size) : 0;
+        height = QMAX(height, depends ? high : item->sizeHint().height());
+        least = QMAX(least, depends ? high : item->minimumSize().height());
+    }
+}
