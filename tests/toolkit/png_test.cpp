@@ -7,6 +7,8 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <fstream>
+#include <iterator>
 #include <string>
 #include <unistd.h>
 
@@ -53,6 +55,62 @@ TEST_F(Png, ComesBackAsItWasSaved)
         EXPECT_EQ(image, back);
         EXPECT_EQ(alpha, back.hasAlphaBuffer());
     }
+}
+
+TEST_F(Png, IsReadFromMemoryToo)
+{
+    ASSERT_TRUE(gradient(true).save(file.c_str(), "PNG"));
+    std::ifstream in(file, std::ios::binary);
+    const std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    QByteArray data;
+    data.duplicate(bytes.data(), static_cast<uint>(bytes.size()));
+    QImage image;
+    EXPECT_TRUE(image.loadFromData(data));
+    EXPECT_EQ(gradient(true), image);
+    EXPECT_EQ(gradient(true), QImage(data));
+    EXPECT_FALSE(image.loadFromData(data, "GIF"));
+    for (const uint length : {0U, 4U, 8U, 30U, data.size() / 2, data.size() - 13}) {
+        EXPECT_FALSE(image.loadFromData(reinterpret_cast<const uchar*>(bytes.data()), length)) << length;
+        EXPECT_EQ(gradient(true), image) << "a broken file leaves it as it is";
+    }
+}
+
+TEST_F(Png, KeepsPlaceAndResolution)
+{
+    QImage image = gradient(false);
+    image.setOffset(QPoint(4, -5));
+    image.setDotsPerMeterX(3937);
+    image.setDotsPerMeterY(2835);
+    ASSERT_TRUE(image.save(file.c_str(), "PNG"));
+    const QImage back(file.c_str());
+    EXPECT_EQ(QPoint(4, -5), back.offset());
+    EXPECT_EQ(3937, back.dotsPerMeterX());
+    EXPECT_EQ(2835, back.dotsPerMeterY());
+}
+
+TEST_F(Png, IsLargerForMoreQuality)
+{
+    long length[2] = {0, 0};
+    for (const int quality : {0, 100}) {
+        ASSERT_TRUE(gradient(false).save(file.c_str(), "PNG", quality));
+        EXPECT_EQ(gradient(false), QImage(file.c_str()));
+        std::ifstream in(file, std::ios::binary | std::ios::ate);
+        length[quality / 100] = static_cast<long>(in.tellg());
+    }
+    EXPECT_LT(length[0], length[1]);
+}
+
+TEST_F(Png, IsTheFormatThereIs)
+{
+    EXPECT_EQ(nullptr, QImage::imageFormat(file.c_str()));
+    ASSERT_TRUE(gradient(false).save(file.c_str(), "PNG"));
+    EXPECT_STREQ("PNG", QImage::imageFormat(file.c_str()));
+    EXPECT_EQ(1u, QImage::inputFormatList().contains("PNG"));
+    EXPECT_EQ(1u, QImage::outputFormatList().contains("PNG"));
+    EXPECT_STREQ("PNG", QImage::inputFormats().at(0));
+    EXPECT_STREQ("PNG", QImage::outputFormats().at(0));
+    EXPECT_FALSE(gradient(false).save(file.c_str(), "png"));
+    EXPECT_EQ("QImageIO::write: No such image format handler: png\n", takeMessages());
 }
 
 TEST_F(Png, MayHoldPixmaps)

@@ -75,6 +75,18 @@ TEST(ColorDialog, IsModalAndNamedAsAsked)
         start, &parent, "Given name");
 }
 
+// The fields may become as narrow as line edits do at least.
+TEST(ColorDialog, MayBeMadeALittleNarrowerThanItIsAtFirst)
+{
+    choose([](QWidget* dialog) {
+        EXPECT_EQ(QSize(499, 379), dialog->size());
+        EXPECT_EQ(QSize(497, 379), dialog->minimumSize());
+        const QWidget* field = static_cast<QWidget*>(dialog->child("qt_hue_edit"));
+        EXPECT_EQ(field->width() - 1, field->minimumSizeHint().width());
+        press(dialog, "Cancel");
+    });
+}
+
 TEST(ColorDialog, OkTakesTheColourAndCancelAndEscapeDoNot)
 {
     EXPECT_EQ(start, choose([](QWidget* dialog) { clickButton(dialog, "OK"); }));

@@ -38,6 +38,15 @@ TEST(FontInfo, WeightsAreNormalOrBold)
             << weight;
 }
 
+TEST(FontInfo, AWeightBetweenTheFacesIsNoExactMatch)
+{
+    for (const int weight : {0, 25, 49, 50, 51, 63, 75, 76, 99}) {
+        const QFont font("DejaVu Sans", 12, weight);
+        EXPECT_EQ(weight == 50 || weight == 75, font.exactMatch()) << weight;
+        EXPECT_EQ(font.exactMatch(), QFontInfo(font).exactMatch()) << weight;
+    }
+}
+
 TEST(FontInfo, SizesAreWhatWasAskedFor)
 {
     EXPECT_EQ(10, QFontInfo(QFont("DejaVu Sans", 10)).pointSize());

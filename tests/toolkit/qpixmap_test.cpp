@@ -10,6 +10,14 @@
 #include <qwidget.h>
 #include <qwmatrix.h>
 
+TEST(PixmapConversion, OfANullImageIsNull)
+{
+    QPixmap pixmap(3, 3);
+    EXPECT_TRUE(pixmap.convertFromImage(QImage()));
+    EXPECT_TRUE(pixmap.isNull());
+    EXPECT_EQ("", takeMessages());
+}
+
 TEST(PixmapSizes, AreKept)
 {
     const QPixmap pixmap(30, 20);

@@ -105,6 +105,13 @@ QSize QColorShower::sizeHint() const
     return size;
 }
 
+// Both columns of fields may become as narrow as a field ever does.
+QSize QColorShower::minimumSizeHint() const
+{
+    const int least = std::min(edits[Hue]->width(), edits[Hue]->minimumSizeHint().width());
+    return QSize(size.width() - 2 * (edits[Hue]->width() - least), size.height());
+}
+
 int QColorShower::number(Field field) const
 {
     return edits[field]->text().toInt();

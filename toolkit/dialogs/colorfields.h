@@ -42,6 +42,7 @@ public:
     int alpha() const;
     void showAlpha(int alpha);
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
 private slots:
     void hsvTyped();

@@ -114,6 +114,7 @@ void ColorPanel::place()
     cancel->setGeometry(ok->x() + ok->width() + distance, y, cancel->sizeHint().width(), buttonHeight);
     add->setGeometry(rightColumn, y, fields->width(), buttonHeight);
     needed = QSize(rightColumn + fields->width() + margin, y + buttonHeight + margin);
+    least = needed - fields->sizeHint() + fields->minimumSizeHint();
 }
 
 void ColorPanel::setColor(const QColor& color)

@@ -31,6 +31,7 @@ public:
     int alpha() const;
     void showAlpha(int alpha);
     QSize neededSize() const { return needed; }
+    QSize leastSize() const { return least; }
 
 private slots:
     void addCustom();
@@ -47,6 +48,7 @@ private:
     QColorLuminancePicker* valuePicker;
     QColorShower* fields;
     QSize needed;
+    QSize least;
     int nextCustom = 0;
     bool withAlpha = false;
 };

@@ -7,7 +7,7 @@ QColorDialog::QColorDialog(QWidget* parent, const char* name, bool modal)
     : QDialog(parent, name, modal), d(new zeltk::ColorPanel(this))
 {
     setCaption(tr("Select color"));
-    setMinimumSize(d->neededSize());
+    setMinimumSize(d->leastSize());
     resize(d->neededSize());
 }
 
@@ -62,7 +62,7 @@ bool QColorDialog::selectColor(const QColor& color)
 void QColorDialog::setSelectedAlpha(int alpha)
 {
     d->showAlpha(alpha);
-    setMinimumSize(d->neededSize());
+    setMinimumSize(d->leastSize());
     resize(d->neededSize());
 }
 

@@ -2,6 +2,7 @@
 #ifndef ZELTK_PNGFILE_H
 #define ZELTK_PNGFILE_H
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -9,14 +10,22 @@ namespace zeltk
 {
 
 struct PngPicture {
-    int width;
-    int height;
-    bool alpha;
-    std::vector<unsigned> pixels; // 0xAARRGGBB
+    int width = 0;
+    int height = 0;
+    bool alpha = false;
+    std::vector<unsigned> pixels = {}; // 0xAARRGGBB
+    int offsetX = 0;
+    int offsetY = 0;
+    int dotsPerMeterX = 0; // 0: unknown
+    int dotsPerMeterY = 0;
 };
 
-bool readPng(const std::string& fileName, PngPicture* picture);
-bool writePng(const std::string& fileName, const PngPicture& picture);
+// Whether the bytes begin as a PNG file does.
+bool looksLikePng(const unsigned char* bytes, size_t length);
+// False, and the picture is undefined, if the bytes are no PNG file or a broken one.
+bool decodePng(const unsigned char* bytes, size_t length, PngPicture* picture);
+// Empty if libpng refuses. The level is that of zlib, 0 to 9, or -1 for its own choice.
+std::string encodePng(const PngPicture& picture, int level);
 
 } // namespace zeltk
 

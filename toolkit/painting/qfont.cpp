@@ -344,7 +344,9 @@ void QFont::setRawMode(bool enable)
 
 bool QFont::exactMatch() const
 {
-    return zeltk::fromUtf8(zeltk::x11::familyOf(zeltk::faceOf(*this))) == d->family;
+    const zeltk::x11::Font* face = zeltk::faceOf(*this);
+    return zeltk::fromUtf8(zeltk::x11::familyOf(face)) == d->family &&
+           d->weight == (zeltk::x11::isBold(face) ? Bold : Normal);
 }
 
 bool QFont::operator==(const QFont& other) const

@@ -1,25 +1,10 @@
-// QImage.
+// QImage: how images come about, share, and hold pixels.
 #include <qimage.h>
 #include <qpixmap.h>
 
-#include "painting/pngfile.h"
-#include "tools/unicode.h"
+#include "painting/imagedata.h"
 
 #include <algorithm>
-#include <vector>
-
-namespace zeltk
-{
-
-struct ImageData {
-    int references;
-    int width;
-    int height;
-    bool alpha;
-    std::vector<QRgb> pixels;
-};
-
-} // namespace zeltk
 
 using zeltk::ImageData;
 
@@ -40,17 +25,16 @@ bool isWithin(const QImage& image, const char* function, int x, int y)
     return false;
 }
 
-bool canWrite(const char* format)
+void findRows(ImageData* data)
 {
-    const bool known = format && qstrcmp(format, "PNG") == 0;
-    if (!known)
-        qWarning("QImageIO::write: No such image format handler: %s", format);
-    return known;
+    data->rows.clear();
+    for (int y = 0; y < data->height; ++y)
+        data->rows.push_back(reinterpret_cast<uchar*>(&data->pixels[static_cast<size_t>(y * data->width)]));
 }
 
 } // namespace
 
-QImage::QImage() : d(new ImageData{1, 0, 0, false, {}}) {}
+QImage::QImage() : d(new ImageData) {}
 
 QImage::QImage(int width, int height, int depth, int numColors, Endian bitOrder) : QImage()
 {
@@ -59,12 +43,17 @@ QImage::QImage(int width, int height, int depth, int numColors, Endian bitOrder)
 
 QImage::QImage(const QSize& size, int depth, int numColors, Endian bitOrder) : QImage()
 {
-    create(size.width(), size.height(), depth, numColors, bitOrder);
+    create(size, depth, numColors, bitOrder);
 }
 
 QImage::QImage(const QString& fileName, const char* format) : QImage()
 {
     load(fileName, format);
+}
+
+QImage::QImage(const QByteArray& data) : QImage()
+{
+    loadFromData(data);
 }
 
 QImage::QImage(const QImage& other) : d(other.d)
@@ -92,13 +81,18 @@ QImage& QImage::operator=(const QPixmap& pixmap)
     return *this = pixmap.convertToImage();
 }
 
+// Images of the same measures are brought to a common depth; null images complain of that.
 bool QImage::operator==(const QImage& other) const
 {
-    return d == other.d ||
-           (d->width == other.d->width && d->height == other.d->height && d->alpha == other.d->alpha &&
-            std::equal(d->pixels.begin(), d->pixels.end(), other.d->pixels.begin(), [this](QRgb a, QRgb b) {
-                return d->alpha ? a == b : (a & RGB_MASK) == (b & RGB_MASK);
-            }));
+    if (d == other.d)
+        return true;
+    if (size() != other.size() || d->alpha != other.d->alpha)
+        return false;
+    const QImage a = convertDepth(32);
+    const QImage b = other.convertDepth(32);
+    const QRgb counting = d->alpha ? 0xffffffff : RGB_MASK;
+    return std::equal(a.d->pixels.begin(), a.d->pixels.end(), b.d->pixels.begin(),
+                      [counting](QRgb one, QRgb two) { return (one & counting) == (two & counting); });
 }
 
 void QImage::detach()
@@ -112,23 +106,27 @@ QImage QImage::copy() const
     QImage result;
     *result.d = *d;
     result.d->references = 1;
+    findRows(result.d);
     return result;
 }
 
-// What lies outside of the image is 0.
-QImage QImage::copy(int x, int y, int w, int h, int) const
+bool QImage::create(int width, int height, int depth, int, Endian)
 {
-    QImage result(w, h, 32);
-    if (result.isNull())
-        return result;
-    result.setAlphaBuffer(d->alpha);
-    result.fill(0);
-    for (int row = 0; row < h; ++row)
-        for (int column = 0; column < w; ++column)
-            if (valid(x + column, y + row))
-                result.setPixel(column, row,
-                                d->pixels[static_cast<size_t>((y + row) * d->width + x + column)]);
-    return result;
+    reset();
+    if (width <= 0 || height <= 0 || depth != 32)
+        return false;
+    if (width > 0x7fffffff / 4 / height)
+        return false;
+    d->width = width;
+    d->height = height;
+    d->pixels.resize(static_cast<size_t>(width) * static_cast<size_t>(height));
+    findRows(d);
+    return true;
+}
+
+void QImage::reset()
+{
+    *this = QImage();
 }
 
 bool QImage::isNull() const
@@ -161,14 +159,31 @@ int QImage::numBytes() const
     return bytesPerLine() * d->height;
 }
 
+QImage::Endian QImage::systemByteOrder()
+{
+    const int one = 1;
+    return *reinterpret_cast<const char*>(&one) ? LittleEndian : BigEndian;
+}
+
+// The two agree on every machine that Linux runs on.
+QImage::Endian QImage::systemBitOrder()
+{
+    return systemByteOrder();
+}
+
 uchar* QImage::bits() const
 {
-    return isNull() ? nullptr : reinterpret_cast<uchar*>(d->pixels.data());
+    return isNull() ? nullptr : d->rows[0];
 }
 
 uchar* QImage::scanLine(int row) const
 {
-    return row < 0 || row >= d->height ? nullptr : bits() + row * bytesPerLine();
+    return row < 0 || row >= d->height ? nullptr : d->rows[static_cast<size_t>(row)];
+}
+
+uchar** QImage::jumpTable() const
+{
+    return isNull() ? nullptr : d->rows.data();
 }
 
 bool QImage::valid(int x, int y) const
@@ -186,22 +201,34 @@ void QImage::setAlphaBuffer(bool enable)
     d->alpha = enable;
 }
 
-bool QImage::create(int width, int height, int depth, int, Endian)
+QPoint QImage::offset() const
 {
-    reset();
-    if (width <= 0 || height <= 0 || depth != 32)
-        return false;
-    if (width > 0x7fffffff / 4 / height)
-        return false;
-    d->width = width;
-    d->height = height;
-    d->pixels.resize(static_cast<size_t>(width) * static_cast<size_t>(height));
-    return true;
+    return d->offset;
 }
 
-void QImage::reset()
+void QImage::setOffset(const QPoint& offset)
 {
-    *this = QImage();
+    d->offset = offset;
+}
+
+int QImage::dotsPerMeterX() const
+{
+    return d->dotsPerMeterX;
+}
+
+int QImage::dotsPerMeterY() const
+{
+    return d->dotsPerMeterY;
+}
+
+void QImage::setDotsPerMeterX(int dots)
+{
+    d->dotsPerMeterX = dots;
+}
+
+void QImage::setDotsPerMeterY(int dots)
+{
+    d->dotsPerMeterY = dots;
 }
 
 void QImage::fill(uint pixel)
@@ -223,29 +250,9 @@ void QImage::setPixel(int x, int y, uint pixel)
     d->pixels[static_cast<size_t>(y * d->width + x)] = pixel;
 }
 
-QImage QImage::mirror(bool horizontally, bool vertically) const
+int QImage::pixelIndex(int x, int y) const
 {
-    QImage result(copy());
-    for (int y = 0; y < d->height; ++y)
-        for (int x = 0; x < d->width; ++x)
-            result.setPixel(horizontally ? d->width - 1 - x : x, vertically ? d->height - 1 - y : y,
-                            d->pixels[static_cast<size_t>(y * d->width + x)]);
-    return result;
-}
-
-bool QImage::load(const QString& fileName, const char* format)
-{
-    zeltk::PngPicture picture;
-    if ((format && qstrcmp(format, "PNG") != 0) || !zeltk::readPng(zeltk::toUtf8(fileName), &picture) ||
-        !create(picture.width, picture.height, 32))
-        return false;
-    d->pixels = picture.pixels;
-    d->alpha = picture.alpha;
-    return true;
-}
-
-bool QImage::save(const QString& fileName, const char* format, int) const
-{
-    return !isNull() && canWrite(format) &&
-           zeltk::writePng(zeltk::toUtf8(fileName), {d->width, d->height, d->alpha, d->pixels});
+    if (isWithin(*this, "pixelIndex", x, y))
+        qWarning("QImage::pixelIndex: Not applicable for 32-bpp images (no palette)");
+    return 0;
 }

@@ -303,8 +303,8 @@ QImage QPixmap::convertToImage() const
 bool QPixmap::convertFromImage(const QImage& image, ColorMode)
 {
     if (image.isNull()) {
-        qWarning("QPixmap::convertFromImage: Cannot convert a null image");
-        return false;
+        setData(nullData(d->isBitmap));
+        return true;
     }
     const bool toBitmap = isQBitmap();
     PixmapData* fresh =

@@ -1,0 +1,105 @@
+// Images in other sizes.
+#include "messages.h"
+#include "printers.h"
+
+#include <gtest/gtest.h>
+#include <qimage.h>
+
+#include <string>
+#include <vector>
+
+namespace
+{
+
+QImage pattern(int width, int height)
+{
+    QImage image(width, height, 32);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x)
+            image.setPixel(x, y, qRgb(x * 37 % 256, y * 53 % 256, (x + y) * 29 % 256));
+    return image;
+}
+
+std::vector<int> row(const QImage& image, int y)
+{
+    std::vector<int> reds;
+    for (int x = 0; x < image.width(); ++x)
+        reds.push_back(qRed(image.pixel(x, y)));
+    return reds;
+}
+
+std::vector<int> column(const QImage& image, int x)
+{
+    std::vector<int> greens;
+    for (int y = 0; y < image.height(); ++y)
+        greens.push_back(qGreen(image.pixel(x, y)));
+    return greens;
+}
+
+} // namespace
+
+TEST(ScaledImage, TakesTheNearestPixels)
+{
+    const QImage large = pattern(4, 3).scale(8, 6);
+    EXPECT_EQ((std::vector<int>{0, 0, 37, 37, 74, 74, 111, 111}), row(large, 0));
+    EXPECT_EQ((std::vector<int>{0, 0, 53, 53, 106, 106}), column(large, 0));
+    const QImage other = pattern(4, 3).scale(QSize(3, 5));
+    EXPECT_EQ((std::vector<int>{0, 37, 74}), row(other, 0));
+    EXPECT_EQ((std::vector<int>{0, 0, 53, 53, 106}), column(other, 0));
+    EXPECT_EQ(pattern(4, 3), pattern(4, 3).scale(4, 3));
+}
+
+TEST(ScaledImage, KeepsItsProportionsIfAsked)
+{
+    const QImage image = pattern(4, 3);
+    EXPECT_EQ(QSize(20, 15), image.scale(20, 20, QImage::ScaleMin).size());
+    EXPECT_EQ(QSize(26, 20), image.scale(20, 20, QImage::ScaleMax).size());
+    EXPECT_EQ(QSize(60, 32), pattern(31, 17).smoothScale(60, 60, QImage::ScaleMin).size());
+    EXPECT_EQ(QSize(10, 8), image.scaleWidth(10).size());
+    EXPECT_EQ(QSize(13, 10), image.scaleHeight(10).size());
+    EXPECT_EQ(image, image.scaleWidth(4));
+    EXPECT_EQ(image, image.scaleHeight(3));
+}
+
+// The rows of a new width follow from the factor, not from the rounded height.
+TEST(ScaledImage, ToAWidthHasTheSameFactorBothWays)
+{
+    EXPECT_EQ((std::vector<int>{0, 0, 0, 53, 53, 106, 106, 106}), column(pattern(4, 3).scaleWidth(10), 0));
+    EXPECT_EQ((std::vector<int>{0, 0, 0, 0, 37, 37, 37, 74, 74, 74, 111, 111, 111}),
+              row(pattern(4, 3).scaleHeight(10), 0));
+}
+
+TEST(ScaledImage, SmoothlyIsTheAverageOfWhatAPixelCovers)
+{
+    const QImage small = pattern(4, 3).smoothScale(2, 2);
+    EXPECT_EQ(0xff131219u, small.pixel(0, 0));
+    EXPECT_EQ(0xff5d1253u, small.pixel(1, 0));
+    EXPECT_EQ(0xff13583fu, small.pixel(0, 1));
+    EXPECT_EQ(0xff5d5879u, small.pixel(1, 1));
+    const QImage other = pattern(4, 3).smoothScale(QSize(3, 5));
+    EXPECT_EQ((std::vector<int>{9, 56, 102}), row(other, 0));
+    EXPECT_EQ((std::vector<int>{0, 18, 53, 88, 106}), column(other, 0));
+    EXPECT_EQ(pattern(4, 3).scale(8, 6), pattern(4, 3).smoothScale(8, 6));
+}
+
+TEST(ScaledImage, KeepsItsAlphaBuffer)
+{
+    QImage image(2, 1, 32);
+    image.setAlphaBuffer(true);
+    image.setPixel(0, 0, qRgba(10, 20, 30, 0));
+    image.setPixel(1, 0, qRgba(10, 20, 30, 200));
+    EXPECT_EQ(qRgba(10, 20, 30, 100), image.smoothScale(1, 1).pixel(0, 0));
+    EXPECT_TRUE(image.smoothScale(1, 1).hasAlphaBuffer());
+    EXPECT_TRUE(image.scale(1, 1).hasAlphaBuffer());
+}
+
+TEST(ScaledImage, IsNullWithoutSize)
+{
+    EXPECT_TRUE(pattern(4, 3).scale(0, 0).isNull());
+    EXPECT_TRUE(pattern(4, 3).smoothScale(5, 0).isNull());
+    EXPECT_EQ("", takeMessages());
+    EXPECT_TRUE(QImage().scale(3, 3).isNull());
+    EXPECT_TRUE(QImage().smoothScale(3, 3).isNull());
+    EXPECT_EQ("QImage::scale: Image is a null image\nQImage::smoothScale: Image is a null image\n",
+              takeMessages());
+}
