@@ -83,7 +83,7 @@ TEST(ColorDialog, MayBeMadeALittleNarrowerThanItIsAtFirst)
         EXPECT_EQ(QSize(497, 379), dialog->minimumSize());
         const QWidget* field = static_cast<QWidget*>(dialog->child("qt_hue_edit"));
         EXPECT_EQ(field->width() - 1, field->minimumSizeHint().width());
-        press(dialog, "Cancel");
+        clickButton(dialog, "Cancel");
     });
 }
 
