@@ -2,25 +2,33 @@
 #include "kernel/applicationprivate.h"
 #include "kernel/widgetdata.h"
 
+#include <qguardedptr.h>
+
 namespace zeltk
 {
 
+// Who hears of a lost focus may delete the widget or any in it.
 void refreshEnabled(QWidget* widget)
 {
     const QWidget* const container = widget->parentWidget(true);
     const bool enable = !dataOf(widget)->selfDisabled && (!container || container->isEnabled());
     if (enable == widget->isEnabled())
         return;
+    const QGuardedPtr<QWidget> alive(widget);
     if (enable) {
         WidgetAccess::clearState(widget, Qt::WState_Disabled);
     } else {
         WidgetAccess::setState(widget, Qt::WState_Disabled);
         widgetDisabled(widget);
     }
+    if (!alive)
+        return;
     applyBackground(widget);
     WidgetAccess::enabledChange(widget, !enable);
-    for (QWidget* child : childWidgets(widget))
-        if (!child->isTopLevel())
+    const std::vector<QWidget*> children = childWidgets(widget);
+    const std::vector<QGuardedPtr<QWidget>> guarded(children.begin(), children.end());
+    for (const QGuardedPtr<QWidget>& child : guarded)
+        if (child && !child->isTopLevel())
             refreshEnabled(child);
 }
 

@@ -10,6 +10,7 @@
 #include "x11/wmhints.h"
 
 #include <qapplication.h>
+#include <qguardedptr.h>
 
 #include <algorithm>
 
@@ -144,7 +145,9 @@ void passFocusOn(QWidget* widget)
 {
     if (dataOf(widget->topLevelWidget())->focus != widget || widget->isTopLevel())
         return;
-    if (!widget->hasFocus() || !WidgetAccess::focusNextPrev(widget, true))
+    const QGuardedPtr<QWidget> alive(widget);
+    const bool passed = widget->hasFocus() && WidgetAccess::focusNextPrev(widget, true);
+    if (!passed && alive)
         widget->clearFocus();
 }
 
@@ -152,9 +155,11 @@ void passFocusOn(QWidget* widget)
 
 void widgetHidden(QWidget* widget)
 {
+    const QGuardedPtr<QWidget> alive(widget);
     passFocusOn(widget);
-    forgetGrabs(widget);
-    if (application()->active == widget)
+    if (alive)
+        forgetGrabs(widget);
+    if (alive && application()->active == widget)
         setActive(nullptr);
 }
 

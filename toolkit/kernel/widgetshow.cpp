@@ -33,17 +33,22 @@ void showChildren(QWidget* widget)
             child->show();
 }
 
-// Windows inside a hidden one need not be unmapped; they reappear with it.
+// Windows inside a hidden one need not be unmapped; they reappear with it. Who hears of a lost focus may
+// delete any of them.
 void hideChildren(QWidget* widget)
 {
-    for (QWidget* child : zeltk::childWidgets(widget)) {
-        if (child->isTopLevel() || !child->isVisible())
+    const std::vector<QWidget*> children = zeltk::childWidgets(widget);
+    const std::vector<QGuardedPtr<QWidget>> guarded(children.begin(), children.end());
+    for (const QGuardedPtr<QWidget>& child : guarded) {
+        if (!child || child->isTopLevel() || !child->isVisible())
             continue;
         WidgetAccess::clearState(child, Qt::WState_Visible);
         hideChildren(child);
-        zeltk::widgetHidden(child);
+        if (child)
+            zeltk::widgetHidden(child);
         QHideEvent event;
-        QApplication::sendEvent(child, &event);
+        if (child)
+            QApplication::sendEvent(child, &event);
     }
 }
 
@@ -156,14 +161,19 @@ void QWidget::hide()
         hideWindow(this);
         return;
     }
+    const QGuardedPtr<QWidget> alive(this);
     clearWState(WState_Visible);
     leavePopupOrModal(this);
-    zeltk::widgetHidden(this);
+    if (alive)
+        zeltk::widgetHidden(this);
+    if (!alive)
+        return;
     hideWindow(this);
     QHideEvent event;
     QApplication::sendEvent(this, &event);
-    hideChildren(this);
-    if (!isTopLevel() && parentWidget())
+    if (alive)
+        hideChildren(this);
+    if (alive && !isTopLevel() && parentWidget())
         QApplication::postEvent(parentWidget(), new QEvent(QEvent::LayoutHint));
 }
 

@@ -30,9 +30,10 @@ void QComboBox::wheelEvent(QWheelEvent* event)
     const int next = std::max(0, std::min(d->current + (event->delta() > 0 ? -1 : 1), count() - 1));
     if (d->open || next == d->current || count() == 0)
         return;
-    setCurrentItem(next);
     const QGuardedPtr<QComboBox> alive(this);
-    emit activated(next);
+    setCurrentItem(next);
+    if (alive)
+        emit activated(next);
     if (alive)
         emit activated(text(next));
 }
@@ -74,10 +75,11 @@ void QComboBox::keyPressEvent(QKeyEvent* event)
     }
     if (count() == 0)
         return;
+    const QGuardedPtr<QComboBox> alive(this);
     if (chosen != d->current)
         setCurrentItem(chosen);
-    const QGuardedPtr<QComboBox> alive(this);
-    emit activated(text(d->current));
+    if (alive)
+        emit activated(text(d->current));
     if (alive)
         emit activated(d->current);
 }
@@ -113,9 +115,10 @@ void QComboBox::internalActivate(int index)
         d->open = false;
         d->list->hide();
     }
-    currentChanged();
     const QGuardedPtr<QComboBox> alive(this);
-    emit activated(index);
+    currentChanged();
+    if (alive)
+        emit activated(index);
     if (alive)
         emit activated(text(index));
 }
@@ -138,9 +141,10 @@ void QComboBox::returnPressed()
         return;
     }
     if (d->policy == AtCurrent) {
-        changeItem(typed, d->current);
         const QGuardedPtr<QComboBox> alive(this);
-        emit activated(d->current);
+        changeItem(typed, d->current);
+        if (alive)
+            emit activated(d->current);
         if (alive)
             emit activated(typed);
         return;
@@ -154,15 +158,18 @@ void QComboBox::returnPressed()
         place = std::min(d->current + 1, count());
     else if (d->policy == BeforeCurrent)
         place = std::min(d->current, count());
+    const QGuardedPtr<QComboBox> alive(this);
     insertItem(typed, place);
-    chooseTyped(place, typed);
+    if (alive)
+        chooseTyped(place, typed);
 }
 
 void QComboBox::chooseTyped(int index, const QString& typed)
 {
-    setCurrentItem(index);
     const QGuardedPtr<QComboBox> alive(this);
-    emit activated(index);
+    setCurrentItem(index);
+    if (alive)
+        emit activated(index);
     if (alive)
         emit activated(typed);
 }
@@ -194,7 +201,10 @@ bool QComboBox::editEvent(QEvent* event)
     switch (event->type()) {
     case QEvent::KeyPress: {
         QKeyEvent* key = static_cast<QKeyEvent*>(event);
+        const QGuardedPtr<QComboBox> alive(this);
         keyPressEvent(key);
+        if (!alive)
+            return true;
         if (key->isAccepted()) {
             d->completeNow = false;
             return true;

@@ -2,6 +2,7 @@
 #include "widgets/lineeditdata.h"
 
 #include <qevent.h>
+#include <qguardedptr.h>
 
 using zeltk::EditBuffer;
 
@@ -50,8 +51,9 @@ void QLineEdit::returnKey()
     if (text == d->value())
         return;
     d->setValue(text);
+    const QGuardedPtr<QLineEdit> alive(this);
     d->finish(this);
-    if (hasAcceptableInput())
+    if (alive && hasAcceptableInput())
         emit returnPressed();
 }
 

@@ -4,6 +4,7 @@
 #include <qapplication.h>
 #include <qclipboard.h>
 #include <qevent.h>
+#include <qguardedptr.h>
 
 namespace zeltk
 {
@@ -116,8 +117,11 @@ void QLineEdit::focusInEvent(QFocusEvent*)
 void QLineEdit::focusOutEvent(QFocusEvent*)
 {
     const QFocusEvent::Reason reason = QFocusEvent::reason();
+    const QGuardedPtr<QLineEdit> alive(this);
     if (reason != QFocusEvent::ActiveWindow && reason != QFocusEvent::Popup)
         deselect();
+    if (!alive)
+        return;
     d->setBlinking(this, false);
     d->marking = false;
     emit lostFocus();

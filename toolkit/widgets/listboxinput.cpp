@@ -50,21 +50,22 @@ void QListBox::mousePressEvent(QMouseEvent* event)
     const QGuardedPtr<QListBox> alive(this);
     d->pressed = item;
     d->dragging = event->button() == LeftButton;
-    if (item) {
+    if (item)
         setCurrentItem(item);
-        if (d->mode == Multi || d->mode == Extended) {
-            if (d->mode == Extended && !(event->state() & ControlButton))
-                clearSelection();
+    if (alive && index(item) >= 0 && (d->mode == Multi || d->mode == Extended)) {
+        if (d->mode == Extended && !(event->state() & ControlButton))
+            clearSelection();
+        if (alive && index(item) >= 0)
             setSelected(item, d->mode == Extended || !item->s);
-        }
     }
-    if (!alive)
-        return;
-    if (event->button() == RightButton)
+    if (alive && event->button() == RightButton)
         emit rightButtonPressed(item, event->globalPos());
-    emit mouseButtonPressed(event->button(), item, event->globalPos());
-    emit pressed(item);
-    emit pressed(item, event->globalPos());
+    if (alive)
+        emit mouseButtonPressed(event->button(), item, event->globalPos());
+    if (alive)
+        emit pressed(item);
+    if (alive)
+        emit pressed(item, event->globalPos());
 }
 
 void QListBox::mouseMoveEvent(QMouseEvent* event)
@@ -112,7 +113,7 @@ void QListBox::mouseDoubleClickEvent(QMouseEvent* event)
         return;
     const QGuardedPtr<QListBox> alive(this);
     setCurrentItem(item);
-    if (d->mode != NoSelection)
+    if (alive && d->mode != NoSelection && index(item) >= 0)
         tellSelected(item);
     if (alive)
         emit doubleClicked(item);

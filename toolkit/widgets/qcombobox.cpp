@@ -7,6 +7,7 @@
 #include "widgets/comboboxdata.h"
 
 #include <qapplication.h>
+#include <qguardedptr.h>
 #include <qpainter.h>
 #include <qpixmap.h>
 #include <qstringlist.h>
@@ -242,23 +243,28 @@ void QComboBox::setCurrentItem(int index)
 {
     if ((index == d->current && !d->edit) || index < 0 || !inRange("setCurrentItem", this, index))
         return;
+    const QGuardedPtr<QComboBox> alive(this);
     d->current = index;
     if (d->edit)
         d->edit->setText(text(index));
-    d->list->setCurrentItem(index);
-    if (d->autoResize)
+    if (alive)
+        d->list->setCurrentItem(index);
+    if (alive && d->autoResize)
         adjustSize();
-    repaint(false);
+    if (alive)
+        repaint(false);
 }
 
 // Of an editable one, the text in the field is set to the current entry's.
 void QComboBox::currentChanged()
 {
+    const QGuardedPtr<QComboBox> alive(this);
     if (d->edit)
         d->edit->setText(text(d->current));
-    if (d->autoResize)
+    if (alive && d->autoResize)
         adjustSize();
-    update();
+    if (alive)
+        update();
 }
 
 QString QComboBox::currentText() const

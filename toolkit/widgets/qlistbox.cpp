@@ -4,6 +4,7 @@
 #include "widgets/listboxdata.h"
 
 #include <qapplication.h>
+#include <qguardedptr.h>
 #include <qstrlist.h>
 
 #include <algorithm>
@@ -155,8 +156,11 @@ void QListBox::takeItem(const QListBoxItem* item)
         d->current = heir;
         if (heir && d->mode == Single)
             heir->s = selected;
+        const QGuardedPtr<QListBox> alive(this);
         if (heir)
             tellHighlighted(heir);
+        if (!alive)
+            return;
     }
     triggerUpdate(true);
 }
@@ -225,7 +229,10 @@ void QListBox::setCurrentItem(QListBoxItem* item)
 {
     if (!item || item->lbox != this || (item == d->current && (item->s || d->mode != Single)))
         return;
-    QListBoxItem* before = d->current;
+    const QGuardedPtr<QListBox> alive(this);
+    if (d->current)
+        updateItem(d->current);
+    updateItem(item);
     d->current = item;
     if (d->mode == Single) {
         const bool changed = !item->s;
@@ -238,31 +245,41 @@ void QListBox::setCurrentItem(QListBoxItem* item)
         item->s = item->able;
         if (changed) {
             emit selectionChanged();
-            emit selectionChanged(item);
+            if (alive && index(item) >= 0)
+                emit selectionChanged(item);
         }
     }
-    if (before)
-        updateItem(before);
-    updateItem(item);
+    if (!alive || index(item) < 0)
+        return;
     ensureCurrentVisible();
     tellHighlighted(item);
-    emit currentChanged(item);
+    if (alive && index(item) >= 0)
+        emit currentChanged(item);
 }
 
+// A receiver may take the entry or the list box away.
 void QListBox::tellHighlighted(QListBoxItem* item)
 {
+    const QGuardedPtr<QListBox> alive(this);
+    const QString text = item->text();
+    const int place = index(item);
     emit highlighted(item);
-    if (!item->text().isNull())
-        emit highlighted(item->text());
-    emit highlighted(index(item));
+    if (alive && !text.isNull())
+        emit highlighted(text);
+    if (alive)
+        emit highlighted(place);
 }
 
 void QListBox::tellSelected(QListBoxItem* item)
 {
+    const QGuardedPtr<QListBox> alive(this);
+    const QString text = item->text();
+    const int place = index(item);
     emit selected(item);
-    if (!item->text().isNull())
-        emit selected(item->text());
-    emit selected(index(item));
+    if (alive && !text.isNull())
+        emit selected(text);
+    if (alive)
+        emit selected(place);
 }
 
 void QListBox::setSelectionMode(SelectionMode mode)
@@ -299,8 +316,9 @@ void QListBox::setSelected(QListBoxItem* item, bool select)
     }
     item->s = select;
     updateItem(item);
+    const QGuardedPtr<QListBox> alive(this);
     emit selectionChanged();
-    if (d->mode == Single)
+    if (alive && d->mode == Single && index(item) >= 0)
         emit selectionChanged(item);
 }
 
