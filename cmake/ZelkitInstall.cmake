@@ -1,5 +1,6 @@
-# What `cmake --install` adds beside the libraries, headers and programs: the CMake package, the pkg-config files
-# and the feature for qmake. All of them find what they need from where they lie, so an installed tree may be moved.
+# What `cmake --install` adds beside the libraries, headers and programs: the CMake package, the pkg-config files,
+# the feature for qmake and the description for Qt Designer. All of them find what they need from where they lie, so
+# an installed tree may be moved.
 include(CMakePackageConfigHelpers)
 
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/zelkit)
@@ -38,4 +39,5 @@ endif()
 configure_file(${install_files}/zelkit.pc.in ${configured}/zelkit.pc @ONLY)
 configure_file(${install_files}/zelkit.prf.in ${configured}/zelkit.prf @ONLY)
 install(FILES ${configured}/zelkit.pc DESTINATION ${pkgconfig_folder} COMPONENT dev)
+install(FILES ${install_files}/zelkit.cw DESTINATION ${CMAKE_INSTALL_DATADIR}/zelkit COMPONENT dev)
 install(FILES ${configured}/zelkit.prf DESTINATION ${CMAKE_INSTALL_DATADIR}/zelkit/features COMPONENT dev)
