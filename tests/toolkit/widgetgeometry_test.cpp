@@ -1,5 +1,6 @@
 // Where widgets are, how large, and when they hear of it.
 #include "eventlog.h"
+#include "pixels.h"
 #include "printers.h"
 #include "waiting.h"
 
@@ -220,4 +221,21 @@ TEST(WidgetGeometry, AdjustSizeEnclosesTheChildren)
     b.setGeometry(30, 40, 10, 10);
     window.adjustSize();
     EXPECT_EQ(QSize(190, 100), window.size());
+}
+
+TEST(WidgetGeometry, WhatIsFarOutsideDoesNotComeRound)
+{
+    QWidget window(nullptr, "window");
+    window.setGeometry(100, 100, 200, 100);
+    window.setPaletteBackgroundColor(QColor(255, 255, 255));
+    QWidget child(&window, "child");
+    child.setPaletteBackgroundColor(QColor(255, 0, 0));
+    child.resize(50, 50);
+    showAndWait(&window);
+    EXPECT_EQ(2500, Pixels::of(&window).count(0xff0000));
+    for (const int far : {65536, 65546, 1 << 30, -65536, -2147483647 - 1}) {
+        child.move(far, 10);
+        EXPECT_EQ(far, child.x());
+        EXPECT_EQ(0, Pixels::of(&window).count(0xff0000)) << far;
+    }
 }

@@ -6,6 +6,8 @@
 #include "x11/textdraw.h"
 #include "x11/xlib.h"
 
+#include <algorithm>
+
 namespace zeltk
 {
 namespace x11
@@ -18,6 +20,12 @@ constexpr long commonEvents = KeyPressMask | KeyReleaseMask | ButtonPressMask | 
                               PointerMotionMask | EnterWindowMask | LeaveWindowMask | ExposureMask |
                               KeymapStateMask;
 constexpr long topLevelEvents = StructureNotifyMask | FocusChangeMask | PropertyChangeMask;
+
+// Places are 16 bits on the wire. What lies further out stays out of sight instead of coming round.
+int onWire(int coordinate)
+{
+    return std::min(std::max(coordinate, -32768), 32767);
+}
 
 } // namespace
 
@@ -32,8 +40,9 @@ XId createWindow(XId parent, int x, int y, int width, int height, bool topLevel,
     attributes.background_pixmap = XNone;
     const unsigned long mask =
         CWEventMask | CWOverrideRedirect | CWSaveUnder | CWBorderPixel | CWBitGravity | CWBackPixmap;
-    return XCreateWindow(display(), parent, x, y, static_cast<unsigned>(width), static_cast<unsigned>(height),
-                         0, CopyFromParent, InputOutput, CopyFromParent, mask, &attributes);
+    return XCreateWindow(display(), parent, onWire(x), onWire(y), static_cast<unsigned>(width),
+                         static_cast<unsigned>(height), 0, CopyFromParent, InputOutput, CopyFromParent, mask,
+                         &attributes);
 }
 
 void destroyWindow(XId window)
@@ -64,7 +73,7 @@ void iconifyWindow(XId window)
 
 void moveWindow(XId window, int x, int y)
 {
-    XMoveWindow(display(), window, x, y);
+    XMoveWindow(display(), window, onWire(x), onWire(y));
 }
 
 void resizeWindow(XId window, int width, int height)
@@ -74,7 +83,8 @@ void resizeWindow(XId window, int width, int height)
 
 void moveResizeWindow(XId window, int x, int y, int width, int height)
 {
-    XMoveResizeWindow(display(), window, x, y, static_cast<unsigned>(width), static_cast<unsigned>(height));
+    XMoveResizeWindow(display(), window, onWire(x), onWire(y), static_cast<unsigned>(width),
+                      static_cast<unsigned>(height));
 }
 
 void rehangWindow(XId window, XId parent, int x, int y, bool topLevel, bool popup)
@@ -84,7 +94,7 @@ void rehangWindow(XId window, XId parent, int x, int y, bool topLevel, bool popu
     attributes.override_redirect = popup;
     attributes.save_under = popup;
     XChangeWindowAttributes(display(), window, CWEventMask | CWOverrideRedirect | CWSaveUnder, &attributes);
-    XReparentWindow(display(), window, parent, x, y);
+    XReparentWindow(display(), window, parent, onWire(x), onWire(y));
 }
 
 unsigned long nextSerial()
