@@ -1,5 +1,6 @@
 // Who has the keyboard focus in a window.
 #include "inputlog.h"
+#include "messages.h"
 #include "waiting.h"
 #include "xinput.h"
 
@@ -110,6 +111,14 @@ TEST_F(Focus, InADisabledParentNobodyKeepsIt)
     EXPECT_EQ(nullptr, qApp->focusWidget());
 }
 
+TEST_F(Focus, AWindowThatHasItItselfLosesItWhenDisabled)
+{
+    top.setFocus();
+    ASSERT_TRUE(top.hasFocus());
+    top.setEnabled(false);
+    EXPECT_EQ(nullptr, qApp->focusWidget());
+}
+
 TEST_F(Focus, WithoutPolicyItStaysWhereItIs)
 {
     a.setFocusPolicy(QWidget::NoFocus);
@@ -165,4 +174,16 @@ TEST_F(Focus, AWindowThatIsNotActiveRemembersWhoWillHaveIt)
     EXPECT_EQ(&child, other.focusWidget());
     showAndActivate(&other);
     EXPECT_EQ(&child, qApp->focusWidget());
+}
+
+TEST_F(Focus, NobodyIsAProxyOfItself)
+{
+    a.setFocusProxy(&b);
+    b.setFocusProxy(&c);
+    takeMessages();
+    c.setFocusProxy(&a);
+    EXPECT_EQ("QWidget::setFocusProxy: c would be its own focus proxy\n", takeMessages());
+    EXPECT_EQ(nullptr, c.focusProxy());
+    a.setFocus();
+    EXPECT_EQ(&c, qApp->focusWidget());
 }

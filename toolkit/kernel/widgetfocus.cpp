@@ -163,11 +163,11 @@ void widgetHidden(QWidget* widget)
         setActive(nullptr);
 }
 
-// Who is disabled together with the parent has no next one.
+// Who is disabled together with the parent has no next one, and neither has a window.
 void widgetDisabled(QWidget* widget)
 {
     const QWidget* parent = widget->parentWidget(true);
-    if (parent && !parent->isEnabled())
+    if (!parent || !parent->isEnabled())
         widget->clearFocus();
     else
         passFocusOn(widget);
@@ -224,6 +224,11 @@ QWidget* QWidget::focusProxy() const
 
 void QWidget::setFocusProxy(QWidget* proxy)
 {
+    for (const QWidget* end = proxy; end; end = end->focusProxy())
+        if (end == this) {
+            qWarning("QWidget::setFocusProxy: %s would be its own focus proxy", name());
+            return;
+        }
     w->focusProxy = proxy;
     if (proxy)
         zeltk::dataOf(proxy)->isFocusProxy = true;
