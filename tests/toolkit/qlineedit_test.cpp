@@ -1,4 +1,5 @@
 // Line edits: text, selection, undo, mouse, limits.
+#include "messages.h"
 #include "printers.h"
 #include "signalrecorder.h"
 #include "waiting.h"
@@ -284,4 +285,12 @@ TEST_F(LineEdit, WantsRoomForSeventeenLetters)
     const QFontMetrics metrics(edit.font());
     EXPECT_EQ(edit.sizeHint(), QSize(17 * metrics.width('x') + 4, metrics.lineSpacing() + 6));
     EXPECT_EQ(edit.minimumSizeHint().height(), metrics.height() + 6);
+}
+
+TEST_F(LineEdit, AFrameOfNegativeWidthLeavesItPaintable)
+{
+    edit.setLineWidth(-65536);
+    edit.setText("text");
+    settle();
+    EXPECT_EQ("", takeMessages());
 }

@@ -77,7 +77,7 @@ QString onOneLine(QString text)
 // Through a pixmap, so that it does not flicker.
 void QLineEdit::drawContents(QPainter* painter)
 {
-    const QRect contents = contentsRect();
+    const QRect contents = contentsRect() & rect();
     if (contents.isEmpty())
         return;
     d->keepCursorInSight(this);
