@@ -45,3 +45,14 @@ TEST(Point, ChangesInPlace)
     p.setY(2);
     EXPECT_EQ(QPoint(1, 2), p);
 }
+
+TEST(Point, GoesRoundAtTheEndsOfInt)
+{
+    const int least = -2147483647 - 1;
+    const int most = 2147483647;
+    EXPECT_EQ(QPoint(least, most), QPoint(most, least) + QPoint(1, -1));
+    EXPECT_EQ(QPoint(most, least), QPoint(least, most) - QPoint(1, -1));
+    EXPECT_EQ(QPoint(least, -most), -QPoint(least, most));
+    EXPECT_EQ(QPoint(-2, 0), QPoint(most, least) * 2);
+    EXPECT_EQ(-1, QPoint(least, most).manhattanLength());
+}

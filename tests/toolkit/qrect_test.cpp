@@ -162,3 +162,19 @@ TEST(Rect, UnionsAndIntersections)
     EXPECT_EQ(QRect(10, 20, 10, 10), changed &= QRect(0, 0, 20, 30));
     EXPECT_EQ(QRect(0, 0, 20, 30), changed |= QRect(0, 0, 1, 1));
 }
+
+TEST(Rect, GoesRoundAtTheEndsOfInt)
+{
+    const int least = -2147483647 - 1;
+    const int most = 2147483647;
+    EXPECT_EQ(least + 9, QRect(most, 0, 11, 1).right());
+    EXPECT_EQ(11, QRect(most, 0, 11, 1).width());
+    EXPECT_EQ(0, QRect(QPoint(least, 0), QPoint(most, 0)).width());
+    EXPECT_TRUE(QRect(least, least, 0, 0).isNull());
+    QRect moved(0, 0, 10, 10);
+    moved.moveTopLeft(QPoint(least, most));
+    EXPECT_EQ(QRect(least, most, 10, 10), moved);
+    moved.moveBy(-1, 1);
+    EXPECT_EQ(QPoint(most, least), moved.topLeft());
+    EXPECT_EQ(QSize(10, 10), moved.size());
+}

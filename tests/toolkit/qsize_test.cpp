@@ -58,3 +58,12 @@ TEST(Size, ScalingKeepsTheProportions)
         EXPECT_EQ(each.expected, size) << each.size.width() << 'x' << each.size.height() << ' ' << each.mode;
     }
 }
+
+TEST(Size, GoesRoundAtTheEndsOfInt)
+{
+    const int least = -2147483647 - 1;
+    const int most = 2147483647;
+    EXPECT_EQ(QSize(least, most), QSize(most, least) + QSize(1, -1));
+    EXPECT_EQ(QSize(most, least), QSize(least, most) - QSize(1, -1));
+    EXPECT_EQ(QSize(-2, 0), QSize(most, least) * 2);
+}

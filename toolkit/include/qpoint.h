@@ -17,24 +17,27 @@ public:
     void setY(int y) { yp = y; }
     QCOORD& rx() { return xp; }
     QCOORD& ry() { return yp; }
-    int manhattanLength() const { return QABS(xp) + QABS(yp); }
+    int manhattanLength() const
+    {
+        return zeltk::sum(xp < 0 ? zeltk::difference(0, xp) : xp, yp < 0 ? zeltk::difference(0, yp) : yp);
+    }
 
     QPoint& operator+=(const QPoint& p)
     {
-        xp += p.xp;
-        yp += p.yp;
+        xp = zeltk::sum(xp, p.xp);
+        yp = zeltk::sum(yp, p.yp);
         return *this;
     }
     QPoint& operator-=(const QPoint& p)
     {
-        xp -= p.xp;
-        yp -= p.yp;
+        xp = zeltk::difference(xp, p.xp);
+        yp = zeltk::difference(yp, p.yp);
         return *this;
     }
     QPoint& operator*=(int c)
     {
-        xp *= c;
-        yp *= c;
+        xp = zeltk::product(xp, c);
+        yp = zeltk::product(yp, c);
         return *this;
     }
     QPoint& operator*=(double c)
@@ -71,15 +74,15 @@ inline bool operator!=(const QPoint& a, const QPoint& b)
 }
 inline const QPoint operator+(const QPoint& a, const QPoint& b)
 {
-    return QPoint(a.x() + b.x(), a.y() + b.y());
+    return QPoint(zeltk::sum(a.x(), b.x()), zeltk::sum(a.y(), b.y()));
 }
 inline const QPoint operator-(const QPoint& a, const QPoint& b)
 {
-    return QPoint(a.x() - b.x(), a.y() - b.y());
+    return QPoint(zeltk::difference(a.x(), b.x()), zeltk::difference(a.y(), b.y()));
 }
 inline const QPoint operator*(const QPoint& p, int c)
 {
-    return QPoint(p.x() * c, p.y() * c);
+    return QPoint(zeltk::product(p.x(), c), zeltk::product(p.y(), c));
 }
 inline const QPoint operator*(int c, const QPoint& p)
 {
@@ -95,7 +98,7 @@ inline const QPoint operator*(double c, const QPoint& p)
 }
 inline const QPoint operator-(const QPoint& p)
 {
-    return QPoint(-p.x(), -p.y());
+    return QPoint(zeltk::difference(0, p.x()), zeltk::difference(0, p.y()));
 }
 inline const QPoint operator/(const QPoint& p, int c)
 {

@@ -14,15 +14,15 @@ public:
     {
     }
     QRect(const QPoint& topLeft, const QSize& size)
-        : x1(topLeft.x()), y1(topLeft.y()), x2(x1 + size.width() - 1), y2(y1 + size.height() - 1)
+        : x1(topLeft.x()), y1(topLeft.y()), x2(lastOf(x1, size.width())), y2(lastOf(y1, size.height()))
     {
     }
     QRect(int left, int top, int width, int height)
-        : x1(left), y1(top), x2(left + width - 1), y2(top + height - 1)
+        : x1(left), y1(top), x2(lastOf(left, width)), y2(lastOf(top, height))
     {
     }
 
-    bool isNull() const { return x2 == x1 - 1 && y2 == y1 - 1; }
+    bool isNull() const { return width() == 0 && height() == 0; }
     bool isEmpty() const { return x1 > x2 || y1 > y2; }
     bool isValid() const { return x1 <= x2 && y1 <= y2; }
     QRect normalize() const;
@@ -86,21 +86,27 @@ public:
         *bottom = y2;
     }
 
-    void moveLeft(int pos) { moveBy(pos - x1, 0); }
-    void moveTop(int pos) { moveBy(0, pos - y1); }
-    void moveRight(int pos) { moveBy(pos - x2, 0); }
-    void moveBottom(int pos) { moveBy(0, pos - y2); }
-    void moveTopLeft(const QPoint& p) { moveBy(p.x() - x1, p.y() - y1); }
-    void moveBottomRight(const QPoint& p) { moveBy(p.x() - x2, p.y() - y2); }
-    void moveTopRight(const QPoint& p) { moveBy(p.x() - x2, p.y() - y1); }
-    void moveBottomLeft(const QPoint& p) { moveBy(p.x() - x1, p.y() - y2); }
+    void moveLeft(int pos) { moveBy(zeltk::difference(pos, x1), 0); }
+    void moveTop(int pos) { moveBy(0, zeltk::difference(pos, y1)); }
+    void moveRight(int pos) { moveBy(zeltk::difference(pos, x2), 0); }
+    void moveBottom(int pos) { moveBy(0, zeltk::difference(pos, y2)); }
+    void moveTopLeft(const QPoint& p) { moveBy(zeltk::difference(p.x(), x1), zeltk::difference(p.y(), y1)); }
+    void moveBottomRight(const QPoint& p)
+    {
+        moveBy(zeltk::difference(p.x(), x2), zeltk::difference(p.y(), y2));
+    }
+    void moveTopRight(const QPoint& p) { moveBy(zeltk::difference(p.x(), x2), zeltk::difference(p.y(), y1)); }
+    void moveBottomLeft(const QPoint& p)
+    {
+        moveBy(zeltk::difference(p.x(), x1), zeltk::difference(p.y(), y2));
+    }
     void moveCenter(const QPoint& p);
     void moveBy(int dx, int dy)
     {
-        x1 += dx;
-        y1 += dy;
-        x2 += dx;
-        y2 += dy;
+        x1 = zeltk::sum(x1, dx);
+        y1 = zeltk::sum(y1, dy);
+        x2 = zeltk::sum(x2, dx);
+        y2 = zeltk::sum(y2, dy);
     }
 
     void setRect(int x, int y, int width, int height) { *this = QRect(x, y, width, height); }
@@ -113,17 +119,17 @@ public:
     }
     void addCoords(int left, int top, int right, int bottom)
     {
-        x1 += left;
-        y1 += top;
-        x2 += right;
-        y2 += bottom;
+        x1 = zeltk::sum(x1, left);
+        y1 = zeltk::sum(y1, top);
+        x2 = zeltk::sum(x2, right);
+        y2 = zeltk::sum(y2, bottom);
     }
 
     QSize size() const { return QSize(width(), height()); }
-    int width() const { return x2 - x1 + 1; }
-    int height() const { return y2 - y1 + 1; }
-    void setWidth(int width) { x2 = x1 + width - 1; }
-    void setHeight(int height) { y2 = y1 + height - 1; }
+    int width() const { return zeltk::sum(zeltk::difference(x2, x1), 1); }
+    int height() const { return zeltk::sum(zeltk::difference(y2, y1), 1); }
+    void setWidth(int width) { x2 = lastOf(x1, width); }
+    void setHeight(int height) { y2 = lastOf(y1, height); }
     void setSize(const QSize& size)
     {
         setWidth(size.width());
@@ -151,6 +157,8 @@ public:
     friend bool operator!=(const QRect& a, const QRect& b) { return !(a == b); }
 
 private:
+    static int lastOf(int first, int count) { return zeltk::difference(zeltk::sum(first, count), 1); }
+
     QCOORD x1;
     QCOORD y1;
     QCOORD x2;

@@ -30,20 +30,20 @@ public:
 
     QSize& operator+=(const QSize& s)
     {
-        wd += s.wd;
-        ht += s.ht;
+        wd = zeltk::sum(wd, s.wd);
+        ht = zeltk::sum(ht, s.ht);
         return *this;
     }
     QSize& operator-=(const QSize& s)
     {
-        wd -= s.wd;
-        ht -= s.ht;
+        wd = zeltk::difference(wd, s.wd);
+        ht = zeltk::difference(ht, s.ht);
         return *this;
     }
     QSize& operator*=(int c)
     {
-        wd *= c;
-        ht *= c;
+        wd = zeltk::product(wd, c);
+        ht = zeltk::product(ht, c);
         return *this;
     }
     QSize& operator*=(double c)
@@ -80,15 +80,15 @@ inline bool operator!=(const QSize& a, const QSize& b)
 }
 inline const QSize operator+(const QSize& a, const QSize& b)
 {
-    return QSize(a.width() + b.width(), a.height() + b.height());
+    return QSize(zeltk::sum(a.width(), b.width()), zeltk::sum(a.height(), b.height()));
 }
 inline const QSize operator-(const QSize& a, const QSize& b)
 {
-    return QSize(a.width() - b.width(), a.height() - b.height());
+    return QSize(zeltk::difference(a.width(), b.width()), zeltk::difference(a.height(), b.height()));
 }
 inline const QSize operator*(const QSize& s, int c)
 {
-    return QSize(s.width() * c, s.height() * c);
+    return QSize(zeltk::product(s.width(), c), zeltk::product(s.height(), c));
 }
 inline const QSize operator*(int c, const QSize& s)
 {

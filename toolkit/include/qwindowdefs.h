@@ -38,6 +38,25 @@ typedef Qt::WFlags WFlags;
 
 //! A coordinate in pixels.
 typedef Q_INT32 QCOORD;
+
+namespace zeltk
+{
+
+// Coordinates are any int; what is computed from them goes round at the ends.
+inline int sum(int a, int b)
+{
+    return (int)((uint)a + (uint)b);
+}
+inline int difference(int a, int b)
+{
+    return (int)((uint)a - (uint)b);
+}
+inline int product(int a, int b)
+{
+    return (int)((uint)a * (uint)b);
+}
+
+} // namespace zeltk
 enum { QCOORD_MIN = -2147483647 - 1, QCOORD_MAX = 2147483647 };
 
 typedef unsigned int QRgb;
