@@ -48,6 +48,23 @@ TEST_F(Modal, ClicksAndKeysForOtherWindowsAreDropped)
     EXPECT_NE(std::string::npos, happened().find("top press 30,30 button 1 state 0"));
 }
 
+TEST_F(Modal, OtherWindowsAreNotScrolledNorClosedEither)
+{
+    showAndActivate(&modal);
+    log.take();
+    xinput::moveTo(&top, 20, 20);
+    xinput::pressButton(4);
+    xinput::releaseButton(4);
+    EXPECT_EQ("", happened());
+    xinput::closeWindow(&top);
+    settle();
+    EXPECT_TRUE(top.isVisible());
+    xinput::closeWindow(&modal);
+    EXPECT_TRUE(waitFor([&] { return !modal.isVisible(); }));
+    xinput::closeWindow(&top);
+    EXPECT_TRUE(waitFor([&] { return !top.isVisible(); }));
+}
+
 TEST_F(Modal, AnotherWindowThatBecomesActiveGetsNoKeysNevertheless)
 {
     showAndActivate(&modal);

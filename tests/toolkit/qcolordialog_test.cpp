@@ -58,6 +58,11 @@ QWidget* colorGrid(QWidget* dialog)
     return dialog->childAt(14, 40);
 }
 
+QWidget* customGrid(QWidget* dialog)
+{
+    return dialog->childAt(14, childNamed(dialog, "qt_def_custcolors_lbl")->y() - 20);
+}
+
 } // namespace
 
 TEST(ColorDialog, IsModalAndNamedAsAsked)
@@ -197,6 +202,112 @@ TEST(ColorDialog, KeepsCustomColours)
     QColorDialog::setCustomColor(1, qRgb(255, 255, 255));
     QColorDialog::setCustomColor(3, qRgb(1, 2, 3));
     EXPECT_EQ(qRgb(1, 2, 3), QColorDialog::customColor(3));
+}
+
+TEST(ColorDialog, AClickedCustomWellTakesTheNextColour)
+{
+    const QRgb blue = qRgb(0, 0, 255);
+    QColorDialog::setCustomColor(5, blue);
+    const QColor chosen = choose([](QWidget* dialog) {
+        QWidget* custom = customGrid(dialog);
+        xinput::click(custom, 28 * 2 + 14, 24 + 12); // the sixth, counted down the columns
+        settle();
+        EXPECT_EQ("240 255 255 0 0 255", fields(dialog));
+        type(dialog, "qt_grn_edit", "128");
+        clickButton(dialog, "&Add to Custom Colors");
+        settle();
+        EXPECT_EQ(0x0080ffu, Pixels::of(custom).at(28 * 2 + 14, 24 + 12));
+        clickButton(dialog, "OK");
+    });
+    EXPECT_EQ(QColor(0, 128, 255), chosen);
+    EXPECT_EQ(qRgb(0, 128, 255), QColorDialog::customColor(5));
+    QColorDialog::setCustomColor(5, qRgb(255, 255, 255));
+}
+
+TEST(ColorDialog, CustomWellsAreReachedWithTheKeyboardAndStayForTheNextTime)
+{
+    choose([](QWidget*) {
+        xinput::typeKey(XK_a, XK_Alt_L); // "Add to Custom Colors"
+        settle();
+        xinput::typeKey(XK_Escape);
+    });
+    const QColor chosen = choose(
+        [](QWidget* dialog) {
+            xinput::typeKey(XK_c, XK_Alt_L);
+            settle();
+            EXPECT_TRUE(customGrid(dialog)->hasFocus());
+            xinput::typeKey(XK_space);
+            settle();
+            xinput::typeKey(XK_Return);
+        },
+        Qt::white);
+    EXPECT_EQ(start, chosen);
+    QColorDialog::setCustomColor(0, qRgb(255, 255, 255));
+}
+
+TEST(ColorDialog, EveryFieldHasItsLetter)
+{
+    choose([](QWidget* dialog) {
+        const struct {
+            unsigned long letter;
+            const char* field;
+        } letters[] = {{XK_e, "qt_hue_edit"}, {XK_s, "qt_sat_edit"}, {XK_v, "qt_val_edit"},
+                       {XK_r, "qt_red_edit"}, {XK_g, "qt_grn_edit"}, {XK_u, "qt_blue_edit"}};
+        for (const auto& each : letters) {
+            xinput::typeKey(each.letter, XK_Alt_L);
+            settle();
+            EXPECT_STREQ(each.field, dialog->focusWidget()->name());
+        }
+        xinput::typeKey(XK_b, XK_Alt_L);
+        settle();
+        EXPECT_TRUE(colorGrid(dialog)->hasFocus());
+        xinput::typeKey(XK_Escape);
+    });
+}
+
+TEST(ColorDialog, TabGoesThroughAllThatCanBeUsed)
+{
+    choose([](QWidget* dialog) {
+        std::string names;
+        for (int i = 0; i < 11; ++i) {
+            xinput::typeKey(XK_Tab);
+            settle();
+            names += dialog->focusWidget()->name() + std::string(" ");
+        }
+        EXPECT_EQ(" qt_hue_edit qt_sat_edit qt_val_edit qt_red_edit qt_grn_edit qt_blue_edit qt_ok_btn "
+                  "qt_cancel_btn qt_add_btn  ",
+                  names)
+            << "the wells have no names";
+        xinput::typeKey(XK_Escape);
+    });
+}
+
+TEST(ColorDialog, ItsContentsFollowTheSizeOfTheWindow)
+{
+    choose([](QWidget* dialog) {
+        QWidget* sample = childNamed(dialog, "qt_colorshow_lbl");
+        QWidget* red = childNamed(dialog, "qt_red_edit");
+        QWidget* ok = childNamed(dialog, "qt_ok_btn");
+        QWidget* custom = customGrid(dialog);
+        const QSize before = dialog->size();
+        const auto customTop = [=] { return custom->mapTo(dialog, QPoint(0, 0)).y(); };
+        const int sampleWidth = sample->width(), redWidth = red->width(), okTop = ok->y(),
+                  customBefore = customTop();
+        dialog->resize(before.width() + 50, before.height() + 40);
+        settle();
+        EXPECT_EQ(sampleWidth + 50, sample->width());
+        EXPECT_EQ(redWidth, red->width());
+        EXPECT_EQ(okTop + 40, ok->y());
+        EXPECT_EQ(customBefore + 40, customTop());
+        dialog->resize(10, 10);
+        settle();
+        EXPECT_EQ(dialog->minimumSize(), dialog->size());
+        EXPECT_EQ(sampleWidth, sample->width());
+        EXPECT_EQ(okTop, ok->y());
+        const QRect room = red->parentWidget()->rect();
+        EXPECT_LT(red->geometry().right(), room.right());
+        clickButton(dialog, "Cancel");
+    });
 }
 
 TEST(ColorDialog, EndsWithItsParent)

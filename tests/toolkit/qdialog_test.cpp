@@ -100,6 +100,19 @@ TEST(DialogExec, HidingEndsItToo)
     EXPECT_EQ(dialog.log, "hide ");
 }
 
+TEST(DialogExec, DeletionEndsItToo)
+{
+    for (const bool hidden : {false, true}) {
+        Dialog* dialog = new Dialog;
+        dialog->soon([=] {
+            if (hidden)
+                dialog->QWidget::hide();
+            dialog->deleteLater();
+        });
+        EXPECT_EQ(dialog->exec(), QDialog::Rejected) << hidden;
+    }
+}
+
 TEST(DialogExec, MayBeNestedAndRepeated)
 {
     Dialog outer, inner(&outer);

@@ -218,6 +218,46 @@ TEST_F(ScrollBar, ArrowsOfAShortBarMeetInTheirMiddleRow)
                                                         ".........\n");
 }
 
+TEST(ScrollBarDeletion, MayBeDeletedByTheReceiverOfAnySignal)
+{
+    const struct {
+        const char* signal;
+        int button, from, to; // pressed, dragged and let go there
+    } cases[] = {
+        {SIGNAL(valueChanged(int)), 1, 8, 8},     {SIGNAL(prevLine()), 1, 8, 8},
+        {SIGNAL(nextLine()), 1, 192, 192},        {SIGNAL(prevPage()), 1, 20, 20},
+        {SIGNAL(nextPage()), 1, 180, 180},        {SIGNAL(valueChanged(int)), 1, 180, 180},
+        {SIGNAL(valueChanged(int)), 2, 180, 180}, {SIGNAL(sliderPressed()), 1, 70, 70},
+        {SIGNAL(sliderMoved(int)), 1, 70, 120},   {SIGNAL(valueChanged(int)), 1, 70, 120},
+        {SIGNAL(sliderReleased()), 1, 70, 120},
+    };
+    QWidget window;
+    window.setGeometry(100, 100, 220, 60);
+    showAndActivate(&window);
+    for (const auto& each : cases) {
+        QScrollBar* bar = new QScrollBar(0, 100, 5, 20, 30, Qt::Horizontal, &window);
+        bar->setGeometry(10, 20, 200, 16);
+        bar->show();
+        settle();
+        SignalRecorder recorder;
+        recorder.watch(bar, each.signal);
+        recorder.whenever = [&] {
+            delete bar;
+            bar = nullptr;
+        };
+        xinput::moveTo(&window, 10 + each.from, 28);
+        xinput::pressButton(each.button);
+        settle();
+        xinput::moveTo(&window, 10 + each.to, 28);
+        settle();
+        xinput::releaseButton(each.button);
+        settle();
+        EXPECT_EQ(bar, nullptr) << each.signal;
+        EXPECT_EQ(recorder.count(), 1) << each.signal;
+        delete bar;
+    }
+}
+
 TEST(ScrollBarSize, IsSixteenAcross)
 {
     EXPECT_EQ(QScrollBar(Qt::Horizontal, nullptr).sizeHint(), QSize(30, 16));

@@ -68,48 +68,72 @@ QColorShower::QColorShower(QWidget* parent) : QWidget(parent, "qt_colorshower")
     }
     edits[Alpha]->hide();
     labels[Alpha]->hide();
-    place();
 }
 
-// Two columns, and the alpha channel below them; its distance from them is kept even while it is hidden.
-void QColorShower::place()
+int QColorShower::likedEditWidth() const
 {
-    const int height = edits[Hue]->sizeHint().height();
-    const int editWidth = fontMetrics().width("999") + 4;
+    return fontMetrics().width("999") + 4;
+}
+
+// The widest of the three labels from `first` on.
+int QColorShower::labelWidth(int first) const
+{
+    int widest = 0;
+    for (int i = first; i < first + 3; ++i)
+        widest = std::max(widest, labels[i]->sizeHint().width());
+    return widest;
+}
+
+QSize QColorShower::sizeFor(int editWidth) const
+{
+    const int columns = labelWidth(Hue) + labelWidth(Red) + 2 * editWidth + 3 * distance;
     const int rows = withAlpha ? 4 : 3;
-    sample->setGeometry(margin, margin, sampleWidth, rows * height + 3 * distance);
-    int x = margin + sampleWidth + distance;
-    const int firstLabel = x;
-    for (int first : {Hue, Red}) {
-        int labelWidth = 0;
-        for (int i = first; i < first + 3; ++i)
-            labelWidth = std::max(labelWidth, labels[i]->sizeHint().width());
-        for (int row = 0; row < 3; ++row) {
-            const int y = margin + row * (height + distance);
-            labels[first + row]->setGeometry(x, y, labelWidth, height);
-            edits[first + row]->setGeometry(x + labelWidth + distance, y, editWidth, height);
-        }
-        x += labelWidth + distance + editWidth + distance;
-    }
-    const int right = x - distance;
-    size = QSize(right + margin, sample->height() + 2 * margin);
-    if (!withAlpha)
-        return;
-    const int y = margin + 3 * (height + distance);
-    labels[Alpha]->setGeometry(firstLabel, y, right - editWidth - distance - firstLabel, height);
-    edits[Alpha]->setGeometry(right - editWidth, y, editWidth, height);
+    return QSize(sampleWidth + distance + columns + 2 * margin,
+                 rows * edits[Hue]->sizeHint().height() + 3 * distance + 2 * margin);
 }
 
 QSize QColorShower::sizeHint() const
 {
-    return size;
+    return sizeFor(likedEditWidth());
 }
 
 // Both columns of fields may become as narrow as a field ever does.
 QSize QColorShower::minimumSizeHint() const
 {
-    const int least = std::min(edits[Hue]->width(), edits[Hue]->minimumSizeHint().width());
-    return QSize(size.width() - 2 * (edits[Hue]->width() - least), size.height());
+    return sizeFor(std::min(likedEditWidth(), edits[Hue]->minimumSizeHint().width()));
+}
+
+// Two columns at the right, and the alpha channel below them; its distance from them is kept even while it is
+// hidden. The sample takes the room that is left.
+void QColorShower::place()
+{
+    const int missing = std::max(0, sizeHint().width() - width());
+    const int editWidth = likedEditWidth() - (missing + 1) / 2;
+    const int height = edits[Hue]->sizeHint().height();
+    const int sampleRoom = sampleWidth + width() - sizeFor(editWidth).width();
+    sample->setGeometry(margin, margin, sampleRoom, this->height() - 2 * margin);
+    int x = margin + sampleRoom + distance;
+    const int firstLabel = x;
+    for (int first : {Hue, Red}) {
+        const int labelRoom = labelWidth(first);
+        for (int row = 0; row < 3; ++row) {
+            const int y = margin + row * (height + distance);
+            labels[first + row]->setGeometry(x, y, labelRoom, height);
+            edits[first + row]->setGeometry(x + labelRoom + distance, y, editWidth, height);
+        }
+        x += labelRoom + distance + editWidth + distance;
+    }
+    if (!withAlpha)
+        return;
+    const int right = x - distance;
+    const int y = margin + 3 * (height + distance);
+    labels[Alpha]->setGeometry(firstLabel, y, right - editWidth - distance - firstLabel, height);
+    edits[Alpha]->setGeometry(right - editWidth, y, editWidth, height);
+}
+
+void QColorShower::resizeEvent(QResizeEvent*)
+{
+    place();
 }
 
 int QColorShower::number(Field field) const
@@ -193,5 +217,4 @@ void QColorShower::showAlpha(int alpha)
     write(Alpha, alpha);
     labels[Alpha]->show();
     edits[Alpha]->show();
-    place();
 }

@@ -44,6 +44,9 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private slots:
     void hsvTyped();
     void rgbTyped();
@@ -54,6 +57,9 @@ private:
     void write(Field field, int number);
     void writeHsv();
     void writeRgb();
+    int likedEditWidth() const;
+    int labelWidth(int first) const;
+    QSize sizeFor(int editWidth) const;
     void place();
 
     QColorShowLabel* sample;
@@ -63,7 +69,6 @@ private:
     QColor current;
     bool writing = false; // it is not the user who changes a field
     bool withAlpha = false;
-    QSize size;
 };
 
 #endif

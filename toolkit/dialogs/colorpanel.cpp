@@ -1,6 +1,7 @@
 // The inside of the colour dialog.
 #include "dialogs/colorpanel.h"
 
+#include <qevent.h>
 #include <qlabel.h>
 #include <qpushbutton.h>
 
@@ -88,33 +89,55 @@ ColorPanel::ColorPanel(QColorDialog* d) : QObject(d), dialog(d)
         showColor();
     };
     fields->onTyped = [this] { showColor(); };
+    dialog->installEventFilter(this);
+    fitDialog();
+}
+
+// The right column decides how large the dialog is.
+QSize ColorPanel::sizeAround(const QSize& fieldsSize) const
+{
+    return QSize(rightColumn + fieldsSize.width() + margin, margin + valuePicker->sizeHint().height() +
+                                                                distance + fieldsSize.height() + distance +
+                                                                ok->sizeHint().height() + margin);
+}
+
+void ColorPanel::fitDialog()
+{
+    dialog->setMinimumSize(sizeAround(fields->minimumSizeHint()));
+    dialog->resize(sizeAround(fields->sizeHint()));
     place();
 }
 
-// The right column decides how high all is; the custom colours stand at the foot of the left one.
+// The custom colours and what is below them stand at the foot of the dialog; the fields take what room is
+// left.
 void ColorPanel::place()
 {
     const int gridWidth = standard->sizeHint().width();
     const int line = standardLabel->sizeHint().height();
     const int buttonHeight = ok->sizeHint().height();
+    const int foot = dialog->height() - margin - buttonHeight;
+    const int fieldsWidth = dialog->width() - margin - rightColumn;
     standardLabel->setGeometry(margin, margin, gridWidth, line);
     standard->setGeometry(QRect(QPoint(margin, margin + line + distance), standard->sizeHint()));
     valuePicker->setGeometry(QRect(QPoint(460, margin), valuePicker->sizeHint()));
     huePicker->setGeometry(QRect(QPoint(rightColumn + 5, margin + 3), huePicker->sizeHint()));
     const int fieldsTop = margin + valuePicker->height() + distance;
-    fields->setGeometry(QRect(QPoint(rightColumn, fieldsTop), fields->sizeHint()));
-    const int bottom = fieldsTop + fields->height();
-    int y = bottom - buttonHeight;
+    fields->setGeometry(rightColumn, fieldsTop, fieldsWidth, foot - distance - fieldsTop);
+    int y = foot - distance - buttonHeight;
     define->setGeometry(margin, y, gridWidth, buttonHeight);
     y -= distance + custom->sizeHint().height();
     custom->setGeometry(QRect(QPoint(margin, y), custom->sizeHint()));
     customLabel->setGeometry(margin, y - distance - line, gridWidth, line);
-    y = bottom + distance;
-    ok->setGeometry(margin, y, ok->sizeHint().width(), buttonHeight);
-    cancel->setGeometry(ok->x() + ok->width() + distance, y, cancel->sizeHint().width(), buttonHeight);
-    add->setGeometry(rightColumn, y, fields->width(), buttonHeight);
-    needed = QSize(rightColumn + fields->width() + margin, y + buttonHeight + margin);
-    least = needed - fields->sizeHint() + fields->minimumSizeHint();
+    ok->setGeometry(margin, foot, ok->sizeHint().width(), buttonHeight);
+    cancel->setGeometry(ok->x() + ok->width() + distance, foot, cancel->sizeHint().width(), buttonHeight);
+    add->setGeometry(rightColumn, foot, fieldsWidth, buttonHeight);
+}
+
+bool ColorPanel::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Resize)
+        place();
+    return QObject::eventFilter(watched, event);
 }
 
 void ColorPanel::setColor(const QColor& color)
@@ -152,7 +175,7 @@ void ColorPanel::showAlpha(int alpha)
 {
     withAlpha = true;
     fields->showAlpha(alpha);
-    place();
+    fitDialog();
 }
 
 } // namespace zeltk

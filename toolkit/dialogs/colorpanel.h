@@ -30,14 +30,17 @@ public:
     bool select(const QColor& color);
     int alpha() const;
     void showAlpha(int alpha);
-    QSize neededSize() const { return needed; }
-    QSize leastSize() const { return least; }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private slots:
     void addCustom();
 
 private:
     void showColor();
+    QSize sizeAround(const QSize& fieldsSize) const;
+    void fitDialog();
     void place();
 
     QColorDialog* dialog;
@@ -47,8 +50,6 @@ private:
     QColorPicker* huePicker;
     QColorLuminancePicker* valuePicker;
     QColorShower* fields;
-    QSize needed;
-    QSize least;
     int nextCustom = 0;
     bool withAlpha = false;
 };

@@ -7,8 +7,6 @@ QColorDialog::QColorDialog(QWidget* parent, const char* name, bool modal)
     : QDialog(parent, name, modal), d(new zeltk::ColorPanel(this))
 {
     setCaption(tr("Select color"));
-    setMinimumSize(d->leastSize());
-    resize(d->neededSize());
 }
 
 QColorDialog::~QColorDialog() {}
@@ -62,8 +60,6 @@ bool QColorDialog::selectColor(const QColor& color)
 void QColorDialog::setSelectedAlpha(int alpha)
 {
     d->showAlpha(alpha);
-    setMinimumSize(d->leastSize());
-    resize(d->neededSize());
 }
 
 int QColorDialog::selectedAlpha() const

@@ -58,7 +58,7 @@ QDialog::QDialog(QWidget* parent, const char* name, bool modal, WFlags f)
 
 QDialog::~QDialog()
 {
-    if (isVisible())
+    if (isVisible() || d->executing)
         QDialog::hide();
     delete d;
 }

@@ -6,6 +6,7 @@
 
 #include <qapplication.h>
 #include <qevent.h>
+#include <qguardedptr.h>
 
 #include <algorithm>
 
@@ -41,22 +42,27 @@ int QScrollBar::partAt(const QPoint& pos) const
 // What a press on a part does, and what follows while it is held.
 void QScrollBar::act()
 {
+    const QGuardedPtr<QScrollBar> alive(this); // receivers may delete it, here and below
     switch (d->pressed) {
     case ScrollBarData::LineBack:
         subtractLine();
-        emit prevLine();
+        if (alive)
+            emit prevLine();
         break;
     case ScrollBarData::LineForward:
         addLine();
-        emit nextLine();
+        if (alive)
+            emit nextLine();
         break;
     case ScrollBarData::PageBack:
         subtractPage();
-        emit prevPage();
+        if (alive)
+            emit prevPage();
         break;
     case ScrollBarData::PageForward:
         addPage();
-        emit nextPage();
+        if (alive)
+            emit nextPage();
         break;
     default:
         break;
@@ -79,8 +85,10 @@ void QScrollBar::mousePressEvent(QMouseEvent* event)
     } else if (event->button() == LeftButton) {
         d->pressed = static_cast<ScrollBarData::Part>(part);
         repaint(false);
+        const QGuardedPtr<QScrollBar> alive(this);
         act();
-        startAutoRepeat();
+        if (alive)
+            startAutoRepeat();
     }
 }
 
@@ -90,7 +98,10 @@ void QScrollBar::beginDrag(bool jump)
     if (jump) {
         d->sliderStart = boundedSlider(d->pointer - sliderLength() / 2);
         d->pressed = ScrollBarData::Slider;
+        const QGuardedPtr<QScrollBar> alive(this);
         setValue(sliderPosToRangeValue(d->sliderStart));
+        if (!alive)
+            return;
     }
     d->pressed = ScrollBarData::Slider;
     d->grabbedAt = d->pointer - d->sliderStart;
@@ -125,8 +136,11 @@ void QScrollBar::drag()
         return;
     d->sliderStart = start;
     const int newValue = sliderPosToRangeValue(start);
+    const QGuardedPtr<QScrollBar> alive(this);
     if (newValue != value())
         emit sliderMoved(newValue);
+    if (!alive)
+        return;
     if (tracking() && newValue != value())
         setValue(newValue);
     else
@@ -144,8 +158,9 @@ void QScrollBar::mouseReleaseEvent(QMouseEvent* event)
     if (!dragged)
         return;
     const int newValue = sliderPosToRangeValue(d->sliderStart);
+    const QGuardedPtr<QScrollBar> alive(this);
     emit sliderReleased();
-    if (newValue != value())
+    if (alive && newValue != value())
         setValue(newValue);
 }
 
