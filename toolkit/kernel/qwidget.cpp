@@ -182,7 +182,7 @@ QWidget::~QWidget()
                 zeltk::WidgetAccess::focusProxyDestroyed(other);
     widgets().erase(std::find(widgets().begin(), widgets().end(), this));
     zeltk::unmakeWindow(this);
-    w->layout = nullptr; // it goes with the children
+    w->layout = nullptr;         // it goes with the children
     zeltk::deleteChildren(this); // while there is still a widget around them
     zeltk::dataOf(static_cast<QObject*>(this))->isWidget = false;
     delete w->cursor;

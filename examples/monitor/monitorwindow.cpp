@@ -1,0 +1,88 @@
+#include "monitorwindow.h"
+#include "panel.h"
+
+#include <qcheckbox.h>
+#include <qdatetime.h>
+#include <qlayout.h>
+
+#include <chrono>
+
+namespace
+{
+
+const int panelsPerLine = 2;
+
+long long steadyMilliseconds()
+{
+    using namespace std::chrono;
+    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+}
+
+// Until the next middle of a second by the clock on the wall. Graphs of rates reckon with whole seconds: a
+// timer that is a little late then still comes in the second that is meant.
+int untilMiddleOfSecond()
+{
+    return (1500 - QTime::currentTime().msec()) % 1000;
+}
+
+} // namespace
+
+MonitorWindow::MonitorWindow(const std::string& folder) : QWidget(nullptr, "monitor"), m_interval(0)
+{
+    const struct {
+        Panel::Looks looks;
+        MakeMeter makeMeter;
+    } panels[] = {
+        {{"Processor (%)", false, QColor(80, 220, 80)}, makeProcessorMeter},
+        {{"Memory (%)", false, QColor(80, 160, 255)}, makeMemoryMeter},
+        {{"Network (KiB/s)", true, QColor(240, 190, 60)}, makeNetworkMeter},
+        {{"Disks (% of the time)", false, QColor(255, 110, 110)}, makeDiskMeter},
+    };
+    setCaption("zelkit monitor");
+    QVBoxLayout* const lines = new QVBoxLayout(this, 10, 10);
+    QHBoxLayout* line = nullptr;
+    for (const auto& entry : panels) {
+        if (m_entries.size() % panelsPerLine == 0) {
+            line = new QHBoxLayout(14);
+            lines->addLayout(line, 1);
+        }
+        Panel* const panel = new Panel(this, entry.looks);
+        line->addWidget(panel, 1);
+        m_entries.push_back({entry.makeMeter(folder, steadyMilliseconds()), panel});
+    }
+    QCheckBox* const bars = new QCheckBox("&Bars", this, "bars");
+    connect(bars, SIGNAL(toggled(bool)), this, SLOT(setBars(bool)));
+    lines->addWidget(bars);
+    connect(&m_timer, SIGNAL(timeout()), this, SLOT(sample()));
+    resize(580, 380);
+}
+
+MonitorWindow::~MonitorWindow() {}
+
+void MonitorWindow::run(int interval)
+{
+    m_interval = interval;
+    QTimer::singleShot(interval < 1000 ? 0 : untilMiddleOfSecond(), this, SLOT(begin()));
+}
+
+void MonitorWindow::begin()
+{
+    m_timer.start(m_interval);
+}
+
+void MonitorWindow::sampleAt(long long now)
+{
+    for (const Entry& entry : m_entries)
+        entry.panel->take(entry.meter->read(now));
+}
+
+void MonitorWindow::sample()
+{
+    sampleAt(steadyMilliseconds());
+}
+
+void MonitorWindow::setBars(bool bars)
+{
+    for (const Entry& entry : m_entries)
+        entry.panel->setBars(bars);
+}

@@ -1,0 +1,65 @@
+#include "panel.h"
+
+#include <qlabel.h>
+#include <qlayout.h>
+#include <zelgraph.h>
+
+#include <climits>
+
+Panel::Panel(QWidget* parent, const Looks& looks)
+    : QWidget(parent, looks.caption), m_looks(looks), m_value(new QLabel(this, "value")),
+      m_graph(new ZelGraph(this, "graph", true)), m_bars(false), m_counting(false), m_zero(0), m_second(0)
+{
+    // A longer value must not move anything.
+    m_value->setSizePolicy(QSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum));
+    m_value->setAlignment(AlignRight | AlignVCenter);
+    m_graph->setMinimumSize(120, 50);
+    setParameters();
+
+    QVBoxLayout* const column = new QVBoxLayout(this, 0, 3);
+    QHBoxLayout* const line = new QHBoxLayout(column);
+    line->addWidget(new QLabel(looks.caption, this, "caption"));
+    line->addWidget(m_value, 1);
+    column->addWidget(m_graph, 1);
+}
+
+void Panel::setParameters()
+{
+    const int divisions = 4, secondsPerLine = 30;
+    m_graph->setGraphParameters(0, 100, divisions, secondsPerLine, m_bars, m_looks.rate, m_looks.rate, black,
+                                m_looks.curve, QColor(0, 70, 0));
+}
+
+void Panel::setBars(bool bars)
+{
+    m_bars = bars;
+    setParameters();
+}
+
+void Panel::take(const std::optional<Reading>& reading)
+{
+    m_value->setText(reading ? reading->text.c_str() : "n/a");
+    if (!reading)
+        return;
+    if (m_looks.rate)
+        count(reading->value);
+    else
+        m_graph->setValue(static_cast<int>(reading->value));
+}
+
+// The graph reckons with whole seconds, so it gets one sample in each. It begins anew when the clock was set
+// back and when the numbers get too large for it; its range forgets that first sample.
+void Panel::count(long long value)
+{
+    const time_t now = time(nullptr);
+    if (m_counting && now == m_second)
+        return;
+    const bool anew = !m_counting || now < m_second || value - m_zero > INT_MAX;
+    if (anew)
+        m_zero = value;
+    m_graph->setValue(static_cast<int>(value - m_zero));
+    if (anew)
+        setParameters();
+    m_counting = true;
+    m_second = now;
+}
