@@ -7,47 +7,23 @@
 #include <zellineeditint.h>
 #include <zelpushbutton2.h>
 
+#include "perishable.h"
 #include "sentevents.h"
 #include "signalrecorder.h"
 #include "waiting.h"
 
 #include <gtest/gtest.h>
 
-#include <cstring>
 #include <functional>
-#include <new>
-#include <vector>
 
 namespace
 {
-
-std::vector<void*> graves;
-
-// What is deleted becomes rubbish at once, and its memory is not used again, so that nobody who still calls
-// it gets away with it.
-template <typename Class>
-class Perishable : public Class
-{
-public:
-    using Class::Class;
-    static void* operator new(std::size_t size) { return ::operator new(size); }
-    static void operator delete(void* memory, std::size_t size)
-    {
-        std::memset(memory, 0xee, size);
-        graves.push_back(memory);
-    }
-};
 
 class Deletion : public testing::Test
 {
 protected:
     Deletion() : window(nullptr, "window") { window.setGeometry(200, 150, 200, 120); }
-    ~Deletion() override
-    {
-        for (void* memory : graves)
-            ::operator delete(memory);
-        graves.clear();
-    }
+    ~Deletion() override { Graveyard::clear(); }
 
     // Does it to a new widget that is deleted at that signal; true if it was, and heard of nothing more.
     bool survives(QWidget* widget, const char* signal, const std::function<void(QWidget*)>& doIt)

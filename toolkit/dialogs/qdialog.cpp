@@ -103,8 +103,9 @@ void QDialog::show()
 
 void QDialog::hide()
 {
+    const QGuardedPtr<QDialog> alive(this);
     QWidget::hide();
-    if (d->executing) {
+    if (alive && d->executing) {
         d->executing = false;
         qApp->exit_loop();
     }
@@ -121,8 +122,10 @@ int QDialog::exec()
     clearWFlags(WDestructiveClose);
     setModal(true);
     setResult(Rejected);
-    show();
     const QGuardedPtr<QDialog> alive(this);
+    show();
+    if (!alive)
+        return Rejected;
     d->executing = true;
     qApp->enter_loop();
     if (!alive)
@@ -137,7 +140,10 @@ int QDialog::exec()
 void QDialog::done(int result)
 {
     const bool wasMainWidget = qApp->mainWidget() == this;
+    const QGuardedPtr<QDialog> alive(this);
     hide();
+    if (!alive)
+        return;
     setResult(result);
     zeltk::windowClosed(this, wasMainWidget);
     if (!wasMainWidget && testWFlags(WDestructiveClose))

@@ -242,8 +242,8 @@ private slots:
     void clearInputString();
 
 private:
-    void tellHighlighted(QListBoxItem* item);
-    void tellSelected(QListBoxItem* item);
+    bool tellHighlighted(QListBoxItem* item);
+    bool tellSelected(QListBoxItem* item);
     void paintItem(QPainter* p, QListBoxItem* item, const QRect& r);
     void lookFor(QKeyEvent* event);
 

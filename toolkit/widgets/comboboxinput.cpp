@@ -110,13 +110,14 @@ void QComboBox::internalActivate(int index)
 {
     if (index < 0 || index >= count())
         return;
+    const QGuardedPtr<QComboBox> alive(this);
     d->current = index;
     if (d->open) {
         d->open = false;
         d->list->hide();
     }
-    const QGuardedPtr<QComboBox> alive(this);
-    currentChanged();
+    if (alive)
+        currentChanged();
     if (alive)
         emit activated(index);
     if (alive)
@@ -140,8 +141,8 @@ void QComboBox::returnPressed()
         emit activated(typed);
         return;
     }
+    const QGuardedPtr<QComboBox> alive(this);
     if (d->policy == AtCurrent) {
-        const QGuardedPtr<QComboBox> alive(this);
         changeItem(typed, d->current);
         if (alive)
             emit activated(d->current);
@@ -149,8 +150,10 @@ void QComboBox::returnPressed()
             emit activated(typed);
         return;
     }
-    while (count() > 0 && count() >= d->maxCount)
+    while (alive && count() > 0 && count() >= d->maxCount)
         d->list->removeItem(count() - 1);
+    if (!alive)
+        return;
     int place = 0;
     if (d->policy == AtBottom)
         place = count();
@@ -158,7 +161,6 @@ void QComboBox::returnPressed()
         place = std::min(d->current + 1, count());
     else if (d->policy == BeforeCurrent)
         place = std::min(d->current, count());
-    const QGuardedPtr<QComboBox> alive(this);
     insertItem(typed, place);
     if (alive)
         chooseTyped(place, typed);
@@ -195,13 +197,13 @@ bool QComboBox::eventFilter(QObject* watched, QEvent* event)
     return QWidget::eventFilter(watched, event);
 }
 
-// The combo box hears of keys and the focus first.
+// The combo box hears of keys and the focus first. When it is deleted meanwhile, so is the field.
 bool QComboBox::editEvent(QEvent* event)
 {
+    const QGuardedPtr<QComboBox> alive(this);
     switch (event->type()) {
     case QEvent::KeyPress: {
         QKeyEvent* key = static_cast<QKeyEvent*>(event);
-        const QGuardedPtr<QComboBox> alive(this);
         keyPressEvent(key);
         if (!alive)
             return true;
@@ -216,13 +218,13 @@ bool QComboBox::editEvent(QEvent* event)
     }
     case QEvent::KeyRelease:
         complete();
-        return false;
+        return !alive;
     case QEvent::FocusIn:
         focusInEvent(static_cast<QFocusEvent*>(event));
-        return false;
+        return !alive;
     case QEvent::FocusOut:
         focusOutEvent(static_cast<QFocusEvent*>(event));
-        return false;
+        return !alive;
     default:
         return false;
     }
@@ -247,13 +249,14 @@ void QComboBox::complete()
 
 bool QComboBox::listEvent(QObject* watched, QEvent* event)
 {
+    const QGuardedPtr<QComboBox> alive(this);
     switch (event->type()) {
     case QEvent::KeyPress:
         return listKey(static_cast<QKeyEvent*>(event));
     case QEvent::Hide:
         if (watched == d->list && d->open)
             popDownListBox();
-        return false;
+        return !alive;
     case QEvent::MouseMove:
         if (watched == d->list)
             return listMouseOutside(static_cast<QMouseEvent*>(event));

@@ -6,6 +6,7 @@
 #include <qapplication.h>
 #include <qdesktopwidget.h>
 #include <qevent.h>
+#include <qguardedptr.h>
 #include <qpainter.h>
 #include <qpixmap.h>
 
@@ -86,9 +87,12 @@ void QComboBox::popup()
     }
     d->open = true;
     d->visited = false;
+    const QGuardedPtr<QComboBox> alive(this);
     QFocusEvent::setReason(QFocusEvent::Popup);
     list->setFocus();
     QFocusEvent::resetReason();
+    if (!alive)
+        return;
     list->show();
     list->setTopItem(d->current);
 }
@@ -98,14 +102,17 @@ void QComboBox::popDownListBox()
 {
     if (!d->open)
         return;
+    const QGuardedPtr<QComboBox> alive(this);
     d->open = false;
     d->list->hide();
-    if (d->current < count())
+    if (alive && d->current < count())
         d->list->setCurrentItem(d->current);
 }
 
 void QComboBox::hide()
 {
+    const QGuardedPtr<QComboBox> alive(this);
     QWidget::hide();
-    popDownListBox();
+    if (alive)
+        popDownListBox();
 }

@@ -50,8 +50,8 @@ void QLineEdit::returnKey()
     d->validator->fixup(text);
     if (text == d->value())
         return;
-    d->setValue(text);
     const QGuardedPtr<QLineEdit> alive(this);
+    d->setValue(text);
     d->finish(this);
     if (alive && hasAcceptableInput())
         emit returnPressed();
@@ -153,6 +153,7 @@ bool QLineEdit::controlEditKey(int key)
     if (!isKnown || d->readOnly)
         return isKnown;
     const EditBuffer before = d->buffer;
+    const QGuardedPtr<QLineEdit> alive(this);
     switch (key) {
     case Key_D:
         del();
@@ -182,7 +183,8 @@ bool QLineEdit::controlEditKey(int key)
     default:
         if (!hasSelectedText())
             wordKey(key == Key_Delete, true);
-        del();
+        if (alive)
+            del();
     }
     return true;
 }

@@ -69,17 +69,22 @@ void QLineEdit::mouseMoveEvent(QMouseEvent* event)
 
 void QLineEdit::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (d->holding && event->button() == LeftButton) {
+    const QGuardedPtr<QLineEdit> alive(this);
+    const bool held = d->holding;
+    d->holding = false;
+    if (held && event->button() == LeftButton) {
         d->buffer.moveCursor(d->positionAt(this, event->x()), false);
         d->finish(this);
     }
-    d->holding = false;
+    if (!alive)
+        return;
     if (event->button() == LeftButton) {
         d->marking = false;
         d->copySelection(true);
     } else if (event->button() == MidButton && !d->readOnly) {
         deselect();
-        insert(QApplication::clipboard()->text(QClipboard::Selection));
+        if (alive)
+            insert(QApplication::clipboard()->text(QClipboard::Selection));
     }
 }
 
@@ -108,16 +113,18 @@ void QLineEdit::mouseDoubleClickEvent(QMouseEvent* event)
 
 void QLineEdit::focusInEvent(QFocusEvent*)
 {
+    const QGuardedPtr<QLineEdit> alive(this);
     const QFocusEvent::Reason reason = QFocusEvent::reason();
     if (reason == QFocusEvent::Tab || reason == QFocusEvent::Backtab)
         selectAll();
-    d->setBlinking(this, true);
+    if (alive)
+        d->setBlinking(this, true);
 }
 
 void QLineEdit::focusOutEvent(QFocusEvent*)
 {
-    const QFocusEvent::Reason reason = QFocusEvent::reason();
     const QGuardedPtr<QLineEdit> alive(this);
+    const QFocusEvent::Reason reason = QFocusEvent::reason();
     if (reason != QFocusEvent::ActiveWindow && reason != QFocusEvent::Popup)
         deselect();
     if (!alive)

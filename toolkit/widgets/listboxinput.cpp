@@ -14,8 +14,10 @@ constexpr int typingPause = 400; // milliseconds, after which a letter begins a 
 
 } // namespace
 
+// When the list is deleted meanwhile, so is its viewport.
 bool QListBox::eventFilter(QObject* watched, QEvent* event)
 {
+    const QGuardedPtr<QListBox> alive(this);
     if (!d || watched != viewport())
         return QScrollView::eventFilter(watched, event);
     switch (event->type()) {
@@ -27,7 +29,7 @@ bool QListBox::eventFilter(QObject* watched, QEvent* event)
     case QEvent::ContextMenu: {
         QContextMenuEvent* menu = static_cast<QContextMenuEvent*>(event);
         emit contextMenuRequested(itemAt(menu->pos()), menu->globalPos());
-        return false;
+        return !alive;
     }
     default:
         return QScrollView::eventFilter(watched, event);
@@ -41,7 +43,7 @@ bool QListBox::eventFilter(QObject* watched, QEvent* event)
         mouseDoubleClickEvent(mouse);
     else
         mouseMoveEvent(mouse);
-    return mouse->isAccepted();
+    return !alive || mouse->isAccepted();
 }
 
 void QListBox::mousePressEvent(QMouseEvent* event)
@@ -52,20 +54,19 @@ void QListBox::mousePressEvent(QMouseEvent* event)
     d->dragging = event->button() == LeftButton;
     if (item)
         setCurrentItem(item);
-    if (alive && index(item) >= 0 && (d->mode == Multi || d->mode == Extended)) {
-        if (d->mode == Extended && !(event->state() & ControlButton))
-            clearSelection();
-        if (alive && index(item) >= 0)
-            setSelected(item, d->mode == Extended || !item->s);
-    }
+    if (alive && d->pressed && d->mode == Extended && !(event->state() & ControlButton))
+        clearSelection();
+    if (alive && d->pressed && isMultiSelection())
+        setSelected(item, d->mode == Extended || !item->s);
+    // An entry that was taken away meanwhile is not pressed any more.
     if (alive && event->button() == RightButton)
-        emit rightButtonPressed(item, event->globalPos());
+        emit rightButtonPressed(d->pressed, event->globalPos());
     if (alive)
-        emit mouseButtonPressed(event->button(), item, event->globalPos());
+        emit mouseButtonPressed(event->button(), d->pressed, event->globalPos());
     if (alive)
-        emit pressed(item);
+        emit pressed(d->pressed);
     if (alive)
-        emit pressed(item, event->globalPos());
+        emit pressed(d->pressed, event->globalPos());
 }
 
 void QListBox::mouseMoveEvent(QMouseEvent* event)
@@ -98,11 +99,12 @@ void QListBox::mouseReleaseEvent(QMouseEvent* event)
     if (!click)
         return;
     emit clicked(item);
-    if (alive)
+    const auto isThere = [&] { return alive && (!item || index(item) >= 0); };
+    if (isThere())
         emit clicked(item, event->globalPos());
-    if (alive)
+    if (isThere())
         emit mouseButtonClicked(event->button(), item, event->globalPos());
-    if (alive && event->button() == RightButton)
+    if (isThere() && event->button() == RightButton)
         emit rightButtonClicked(item, event->globalPos());
 }
 
@@ -113,9 +115,9 @@ void QListBox::mouseDoubleClickEvent(QMouseEvent* event)
         return;
     const QGuardedPtr<QListBox> alive(this);
     setCurrentItem(item);
-    if (alive && d->mode != NoSelection && index(item) >= 0)
+    if (alive && index(item) >= 0 && d->mode != NoSelection)
         tellSelected(item);
-    if (alive)
+    if (alive && index(item) >= 0)
         emit doubleClicked(item);
 }
 
@@ -154,13 +156,9 @@ void QListBox::keyPressEvent(QKeyEvent* event)
     case Key_Return:
     case Key_Enter:
         event->ignore();
-        if (d->current) {
-            const QGuardedPtr<QListBox> alive(this);
-            QListBoxItem* current = d->current;
-            tellSelected(current);
-            if (alive)
+        if (QListBoxItem* current = d->current)
+            if (tellSelected(current))
                 emit returnPressed(current);
-        }
         break;
     default:
         lookFor(event);

@@ -213,14 +213,16 @@ void QComboBox::removeItem(int index)
     const int before = count();
     if (index < 0 || !inRange("removeItem", this, index))
         return;
+    const QGuardedPtr<QComboBox> alive(this);
     d->list->removeItem(index);
-    if (index == d->current) {
+    if (alive && index == d->current) {
         if (d->edit)
             d->edit->setText(index < before - 1 ? text(index) : QString(""));
         else if (index == before - 1 && index > 0)
             d->current = index - 1;
     }
-    update();
+    if (alive)
+        update();
 }
 
 void QComboBox::clear()
@@ -229,9 +231,9 @@ void QComboBox::clear()
         return;
     d->list->clear();
     d->current = 0;
+    update();
     if (d->edit)
         d->edit->setText(QString(""));
-    update();
 }
 
 int QComboBox::currentItem() const
@@ -249,22 +251,22 @@ void QComboBox::setCurrentItem(int index)
         d->edit->setText(text(index));
     if (alive)
         d->list->setCurrentItem(index);
-    if (alive && d->autoResize)
+    if (!alive)
+        return;
+    if (d->autoResize)
         adjustSize();
-    if (alive)
-        repaint(false);
+    repaint(false);
 }
 
 // Of an editable one, the text in the field is set to the current entry's.
 void QComboBox::currentChanged()
 {
     const QGuardedPtr<QComboBox> alive(this);
+    update();
     if (d->edit)
         d->edit->setText(text(d->current));
     if (alive && d->autoResize)
         adjustSize();
-    if (alive)
-        update();
 }
 
 QString QComboBox::currentText() const
@@ -303,24 +305,30 @@ void QComboBox::changeItem(const QString& text, int index)
 {
     if (index < 0 || !inRange("changeItem", this, index))
         return;
+    const QGuardedPtr<QComboBox> alive(this);
     d->list->changeItem(text, index);
-    inserted(index);
+    if (alive)
+        inserted(index);
 }
 
 void QComboBox::changeItem(const QPixmap& pixmap, int index)
 {
     if (index < 0 || !inRange("changeItem", this, index))
         return;
+    const QGuardedPtr<QComboBox> alive(this);
     d->list->changeItem(pixmap, index);
-    inserted(index);
+    if (alive)
+        inserted(index);
 }
 
 void QComboBox::changeItem(const QPixmap& pixmap, const QString& text, int index)
 {
     if (index < 0 || !inRange("changeItem", this, index))
         return;
+    const QGuardedPtr<QComboBox> alive(this);
     d->list->changeItem(pixmap, text, index);
-    inserted(index);
+    if (alive)
+        inserted(index);
 }
 
 void QComboBox::setPalette(const QPalette& palette)

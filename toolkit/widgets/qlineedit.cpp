@@ -331,8 +331,10 @@ void QLineEdit::cut()
 {
     if (!hasSelectedText())
         return;
+    const QGuardedPtr<QLineEdit> alive(this);
     copy();
-    del();
+    if (alive)
+        del();
 }
 
 void QLineEdit::copy() const

@@ -156,11 +156,10 @@ void QListBox::takeItem(const QListBoxItem* item)
         d->current = heir;
         if (heir && d->mode == Single)
             heir->s = selected;
-        const QGuardedPtr<QListBox> alive(this);
+        triggerUpdate(true);
         if (heir)
             tellHighlighted(heir);
-        if (!alive)
-            return;
+        return;
     }
     triggerUpdate(true);
 }
@@ -187,7 +186,12 @@ void QListBox::changeItem(const QListBoxItem* item, int index)
 {
     if (!item || index < 0 || index >= static_cast<int>(count()))
         return;
+    const QGuardedPtr<QListBox> alive(this);
     removeItem(index);
+    if (!alive) {
+        delete item;
+        return;
+    }
     insertItem(item, index);
     setCurrentItem(index);
 }
@@ -230,9 +234,7 @@ void QListBox::setCurrentItem(QListBoxItem* item)
     if (!item || item->lbox != this || (item == d->current && (item->s || d->mode != Single)))
         return;
     const QGuardedPtr<QListBox> alive(this);
-    if (d->current)
-        updateItem(d->current);
-    updateItem(item);
+    QListBoxItem* before = d->current;
     d->current = item;
     if (d->mode == Single) {
         const bool changed = !item->s;
@@ -243,50 +245,52 @@ void QListBox::setCurrentItem(QListBoxItem* item)
             }
         }
         item->s = item->able;
-        if (changed) {
+        if (changed)
             emit selectionChanged();
-            if (alive && index(item) >= 0)
-                emit selectionChanged(item);
-        }
+        if (changed && alive && d->current == item)
+            emit selectionChanged(item);
+        if (!alive || d->current != item)
+            return;
     }
-    if (!alive || index(item) < 0)
-        return;
+    if (before && index(before) >= 0)
+        updateItem(before);
+    updateItem(item);
     ensureCurrentVisible();
-    tellHighlighted(item);
-    if (alive && index(item) >= 0)
+    if (tellHighlighted(item))
         emit currentChanged(item);
 }
 
-// A receiver may take the entry or the list box away.
-void QListBox::tellHighlighted(QListBoxItem* item)
+// Who listens may delete the list, or take the entry away: then nothing more is told of it.
+bool QListBox::tellHighlighted(QListBoxItem* item)
 {
     const QGuardedPtr<QListBox> alive(this);
-    const QString text = item->text();
-    const int place = index(item);
     emit highlighted(item);
-    if (alive && !text.isNull())
-        emit highlighted(text);
-    if (alive)
-        emit highlighted(place);
+    if (alive && index(item) >= 0 && !item->text().isNull())
+        emit highlighted(item->text());
+    if (alive && index(item) >= 0)
+        emit highlighted(index(item));
+    return alive && index(item) >= 0;
 }
 
-void QListBox::tellSelected(QListBoxItem* item)
+bool QListBox::tellSelected(QListBoxItem* item)
 {
     const QGuardedPtr<QListBox> alive(this);
-    const QString text = item->text();
-    const int place = index(item);
     emit selected(item);
-    if (alive && !text.isNull())
-        emit selected(text);
-    if (alive)
-        emit selected(place);
+    if (alive && index(item) >= 0 && !item->text().isNull())
+        emit selected(item->text());
+    if (alive && index(item) >= 0)
+        emit selected(index(item));
+    return alive && index(item) >= 0;
 }
 
 void QListBox::setSelectionMode(SelectionMode mode)
 {
     if (d->mode == mode)
         return;
+    const QGuardedPtr<QListBox> alive(this);
     clearSelection();
+    if (!alive)
+        return;
     d->mode = mode;
     triggerUpdate(false);
 }
