@@ -90,11 +90,11 @@ private slots:
 
 private:
     friend struct zeltk::ButtonData;
-    void showDown(bool down);
-    void press();
-    void finishClick();
+    ZELTK_LOCAL void showDown(bool down);
+    ZELTK_LOCAL void press();
+    ZELTK_LOCAL void finishClick();
     void nextState();
-    void contentsChanged();
+    ZELTK_LOCAL void contentsChanged();
 
     zeltk::ButtonData* d;
 

@@ -30,8 +30,8 @@ protected:
     void drawButtonLabel(QPainter* p);
 
 private:
-    void init();
-    QSize labelSize() const;
+    ZELTK_LOCAL void init();
+    ZELTK_LOCAL QSize labelSize() const;
 
     QCheckBox(const QCheckBox&);
     QCheckBox& operator=(const QCheckBox&);

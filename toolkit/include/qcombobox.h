@@ -127,16 +127,16 @@ protected:
     void wheelEvent(QWheelEvent* event);
 
 private:
-    void init();
-    void inserted(int index);
-    int entryForLetter(QKeyEvent* event);
-    void chooseTyped(int index, const QString& typed);
-    void complete();
-    bool editEvent(QEvent* event);
-    bool listEvent(QObject* watched, QEvent* event);
-    bool listKey(QKeyEvent* event);
-    bool listMouseInside(QMouseEvent* event);
-    bool listMouseOutside(QMouseEvent* event);
+    ZELTK_LOCAL void init();
+    ZELTK_LOCAL void inserted(int index);
+    ZELTK_LOCAL int entryForLetter(QKeyEvent* event);
+    ZELTK_LOCAL void chooseTyped(int index, const QString& typed);
+    ZELTK_LOCAL void complete();
+    ZELTK_LOCAL bool editEvent(QEvent* event);
+    ZELTK_LOCAL bool listEvent(QObject* watched, QEvent* event);
+    ZELTK_LOCAL bool listKey(QKeyEvent* event);
+    ZELTK_LOCAL bool listMouseInside(QMouseEvent* event);
+    ZELTK_LOCAL bool listMouseOutside(QMouseEvent* event);
     void setUpListBox();
     void setUpLineEdit();
     void popDownListBox();

@@ -45,7 +45,7 @@ signals:
     void aboutToBlock();
 
 private:
-    void waitForEvents(ProcessEventsFlags flags);
+    ZELTK_LOCAL void waitForEvents(ProcessEventsFlags flags);
 
     zeltk::EventLoopState* d;
 

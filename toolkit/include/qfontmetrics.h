@@ -5,6 +5,8 @@
 #include <qfont.h>
 #include <qrect.h>
 
+class QTextParag;
+
 class Q_EXPORT QFontMetrics
 {
 public:
@@ -36,8 +38,9 @@ public:
     QRect boundingRect(QChar c) const;
     //! The place of a text in a rectangle, with Qt::AlignmentFlags and Qt::TextFlags.
     QRect boundingRect(int x, int y, int w, int h, int flags, const QString& text, int length = -1,
-                       int tabStops = 0, int* tabArray = 0) const;
-    QSize size(int flags, const QString& text, int length = -1, int tabStops = 0, int* tabArray = 0) const;
+                       int tabStops = 0, int* tabArray = 0, QTextParag** unused = 0) const;
+    QSize size(int flags, const QString& text, int length = -1, int tabStops = 0, int* tabArray = 0,
+               QTextParag** unused = 0) const;
 
     int underlinePos() const;
     int overlinePos() const { return ascent() + 1; }

@@ -63,7 +63,7 @@ protected:
     virtual void frameChanged();
 
 private:
-    void changed();
+    ZELTK_LOCAL void changed();
 
     QRect frect; // null: the whole widget
     int fstyle;

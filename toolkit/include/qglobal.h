@@ -8,6 +8,8 @@
 #define QT_VERSION_STR "3.3.8b"
 
 #define Q_EXPORT __attribute__((visibility("default")))
+// Private members of exported classes that only the library itself calls.
+#define ZELTK_LOCAL __attribute__((visibility("hidden")))
 #define Q_WS_X11
 #define Q_OS_UNIX
 

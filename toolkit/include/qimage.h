@@ -140,7 +140,7 @@ public:
     bool save(const QString& fileName, const char* format, int quality = -1) const;
 
 private:
-    QSize scaled(const char* function, int width, int height, ScaleMode mode) const;
+    ZELTK_LOCAL QSize scaled(const char* function, int width, int height, ScaleMode mode) const;
 
     zeltk::ImageData* d;
 };

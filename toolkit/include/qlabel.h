@@ -61,11 +61,11 @@ private slots:
     void buddyDied();
 
 private:
-    void contentsChanged();
-    void drawPicture(QPainter* p);
-    void updateAccelerator();
+    ZELTK_LOCAL void contentsChanged();
+    ZELTK_LOCAL void drawPicture(QPainter* p);
+    ZELTK_LOCAL void updateAccelerator();
     QSize sizeForWidth(int width) const;
-    QSize measureText(int room) const;
+    ZELTK_LOCAL QSize measureText(int room) const;
 
     zeltk::LabelData* d;
 

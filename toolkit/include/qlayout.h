@@ -229,8 +229,8 @@ protected:
     QRect alignmentRect(const QRect& room) const;
 
 private:
-    void changed();
-    void forget(const QObject* child);
+    ZELTK_LOCAL void changed();
+    ZELTK_LOCAL void forget(const QObject* child);
 
     int insideSpacing;
     int outsideBorder;

@@ -115,7 +115,6 @@ signals:
 
 protected:
     bool event(QEvent* event);
-    void timerEvent(QTimerEvent* event);
     void mousePressEvent(QMouseEvent* event);
     void mouseMoveEvent(QMouseEvent* event);
     void mouseReleaseEvent(QMouseEvent* event);
@@ -127,12 +126,12 @@ protected:
     void windowActivationChange(bool oldActive);
 
 private:
-    void init();
-    void returnKey();
-    bool plainKey(QKeyEvent* event);
-    bool controlKey(QKeyEvent* event);
-    bool controlEditKey(int key);
-    void wordKey(bool forward, bool mark);
+    ZELTK_LOCAL void init();
+    ZELTK_LOCAL void returnKey();
+    ZELTK_LOCAL bool plainKey(QKeyEvent* event);
+    ZELTK_LOCAL bool controlKey(QKeyEvent* event);
+    ZELTK_LOCAL bool controlEditKey(int key);
+    ZELTK_LOCAL void wordKey(bool forward, bool mark);
 
     friend struct zeltk::LineEditData;
     zeltk::LineEditData* d;

@@ -242,10 +242,10 @@ private slots:
     void clearInputString();
 
 private:
-    bool tellHighlighted(QListBoxItem* item);
-    bool tellSelected(QListBoxItem* item);
-    void paintItem(QPainter* p, QListBoxItem* item, const QRect& r);
-    void lookFor(QKeyEvent* event);
+    ZELTK_LOCAL bool tellHighlighted(QListBoxItem* item);
+    ZELTK_LOCAL bool tellSelected(QListBoxItem* item);
+    ZELTK_LOCAL void paintItem(QPainter* p, QListBoxItem* item, const QRect& r);
+    ZELTK_LOCAL void lookFor(QKeyEvent* event);
 
     zeltk::ListBoxData* d;
 

@@ -209,15 +209,18 @@ public:
     //! Placed in the rectangle by Qt::AlignmentFlags and Qt::TextFlags, and clipped to it. `boundingRect`
     //! receives what the text takes up.
     void drawText(int x, int y, int w, int h, int flags, const QString& text, int length = -1,
-                  QRect* boundingRect = 0);
-    void drawText(const QRect& r, int flags, const QString& text, int length = -1, QRect* boundingRect = 0)
+                  QRect* boundingRect = 0, QTextParag** unused = 0);
+    void drawText(const QRect& r, int flags, const QString& text, int length = -1, QRect* boundingRect = 0,
+                  QTextParag** unused = 0)
     {
-        drawText(r.x(), r.y(), r.width(), r.height(), flags, text, length, boundingRect);
+        drawText(r.x(), r.y(), r.width(), r.height(), flags, text, length, boundingRect, unused);
     }
-    QRect boundingRect(int x, int y, int w, int h, int flags, const QString& text, int length = -1);
-    QRect boundingRect(const QRect& r, int flags, const QString& text, int length = -1)
+    QRect boundingRect(int x, int y, int w, int h, int flags, const QString& text, int length = -1,
+                       QTextParag** unused = 0);
+    QRect boundingRect(const QRect& r, int flags, const QString& text, int length = -1,
+                       QTextParag** unused = 0)
     {
-        return boundingRect(r.x(), r.y(), r.width(), r.height(), flags, text, length);
+        return boundingRect(r.x(), r.y(), r.width(), r.height(), flags, text, length, unused);
     }
     int tabStops() const;
     void setTabStops(int pixels);

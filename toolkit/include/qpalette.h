@@ -69,7 +69,7 @@ public:
     bool operator!=(const QColorGroup& other) const { return !(*this == other); }
 
 private:
-    void derive();
+    ZELTK_LOCAL void derive();
 
     QBrush brushes[NColorRoles];
 };

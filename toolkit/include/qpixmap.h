@@ -76,14 +76,13 @@ public:
     static QPixmap grabWidget(QWidget* widget, int x = 0, int y = 0, int w = -1, int h = -1);
 
     virtual void detach();
-    virtual Qt::HANDLE handle() const;
 
 protected:
     QPixmap(int w, int h, const uchar* data, bool isXbitmap);
 
 private:
     friend struct zeltk::PixmapAccess;
-    void setData(zeltk::PixmapData* data);
+    ZELTK_LOCAL void setData(zeltk::PixmapData* data);
 
     zeltk::PixmapData* d;
 };

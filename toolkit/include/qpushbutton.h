@@ -49,7 +49,7 @@ private:
     friend class QDialog;
     friend struct zeltk::PushButtonAccess;
     void init();
-    void showDefault(bool on);
+    ZELTK_LOCAL void showDefault(bool on);
 
     bool automatic;
     bool isdefault; // now

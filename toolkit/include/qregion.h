@@ -63,7 +63,7 @@ public:
     bool operator!=(const QRegion& other) const { return !(*this == other); }
 
 private:
-    explicit QRegion(zeltk::RegionData* data);
+    ZELTK_LOCAL explicit QRegion(zeltk::RegionData* data);
     zeltk::RegionData* d;
 };
 

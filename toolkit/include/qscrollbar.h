@@ -73,7 +73,6 @@ protected:
     void mouseMoveEvent(QMouseEvent* event);
     void contextMenuEvent(QContextMenuEvent* event);
     void hideEvent(QHideEvent* event);
-    void timerEvent(QTimerEvent* event);
 
     void valueChange();
     void stepChange();
@@ -83,17 +82,17 @@ private slots:
     void doAutoRepeat();
 
 private:
-    void init(Orientation orientation);
+    ZELTK_LOCAL void init(Orientation orientation);
     void positionSliderFromValue();
     int rangeValueToSliderPos(int value) const;
     int sliderPosToRangeValue(int pos) const;
-    int grooveLength() const;
-    int sliderLength() const;
-    int boundedSlider(int start) const;
-    int partAt(const QPoint& pos) const;
-    void act();
-    void beginDrag(bool jump);
-    void drag();
+    ZELTK_LOCAL int grooveLength() const;
+    ZELTK_LOCAL int sliderLength() const;
+    ZELTK_LOCAL int boundedSlider(int start) const;
+    ZELTK_LOCAL int partAt(const QPoint& pos) const;
+    ZELTK_LOCAL void act();
+    ZELTK_LOCAL void beginDrag(bool jump);
+    ZELTK_LOCAL void drag();
     void startAutoRepeat();
     void stopAutoRepeat();
 

@@ -136,14 +136,15 @@ QRect QFontMetrics::boundingRect(QChar c) const
 }
 
 QRect QFontMetrics::boundingRect(int x, int y, int w, int h, int flags, const QString& text, int length,
-                                 int tabStops, int* tabArray) const
+                                 int tabStops, int* tabArray, QTextParag**) const
 {
     return zeltk::layoutText(font, QRect(x, y, w, h), {flags, tabStops, tabArray},
                              zeltk::fromUtf16(firstOf(text, length)))
         .bounding;
 }
 
-QSize QFontMetrics::size(int flags, const QString& text, int length, int tabStops, int* tabArray) const
+QSize QFontMetrics::size(int flags, const QString& text, int length, int tabStops, int* tabArray,
+                         QTextParag**) const
 {
     return boundingRect(0, 0, 0, 0, flags, text, length, tabStops, tabArray).size();
 }

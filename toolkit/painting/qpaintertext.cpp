@@ -134,7 +134,7 @@ void QPainter::drawText(int x, int y, const QString& text, int position, int len
 }
 
 void QPainter::drawText(int x, int y, int w, int h, int flags, const QString& text, int length,
-                        QRect* boundingRect)
+                        QRect* boundingRect, QTextParag**)
 {
     if (!isActive())
         return;
@@ -162,7 +162,8 @@ void QPainter::drawText(int x, int y, int w, int h, int flags, const QString& te
     }
 }
 
-QRect QPainter::boundingRect(int x, int y, int w, int h, int flags, const QString& text, int length)
+QRect QPainter::boundingRect(int x, int y, int w, int h, int flags, const QString& text, int length,
+                             QTextParag**)
 {
     return zeltk::layoutText(d->state.font, QRect(x, y, w, h), formatOf(d, flags), firstOf(text, length))
         .bounding;

@@ -97,44 +97,44 @@ uchar mirrored(uchar bits)
 
 QPixmap::QPixmap() : QPaintDevice(PixmapDevice), d(nullData()) {}
 
-QPixmap::QPixmap(int w, int h, int depth, Optimization optimization)
-    : QPaintDevice(PixmapDevice), d(newData(w, h, depth))
+QPixmap::QPixmap(int w, int h, int depth, Optimization optimization) : QPixmap()
 {
+    setData(newData(w, h, depth));
     setOptimization(optimization);
 }
 
 QPixmap::QPixmap(const QSize& size, int depth, Optimization optimization)
-    : QPaintDevice(PixmapDevice), d(newData(size.width(), size.height(), depth))
+    : QPixmap(size.width(), size.height(), depth, optimization)
 {
-    setOptimization(optimization);
 }
 
-QPixmap::QPixmap(const QImage& image) : QPaintDevice(PixmapDevice), d(nullData())
+QPixmap::QPixmap(const QImage& image) : QPixmap()
 {
     convertFromImage(image);
 }
 
-QPixmap::QPixmap(const QString& fileName, const char* format, ColorMode mode)
-    : QPaintDevice(PixmapDevice), d(nullData())
+QPixmap::QPixmap(const QString& fileName, const char* format, ColorMode mode) : QPixmap()
 {
     load(fileName, format, mode);
 }
 
-QPixmap::QPixmap(int w, int h, const uchar* data, bool isXbitmap)
-    : QPaintDevice(PixmapDevice), d(newData(w, h, 1))
+QPixmap::QPixmap(int w, int h, const uchar* data, bool isXbitmap) : QPixmap()
 {
-    if (!d->id)
-        return;
-    std::vector<uchar> bits(data, data + (w + 7) / 8 * h);
-    if (!isXbitmap)
-        std::transform(bits.begin(), bits.end(), bits.begin(), mirrored);
-    x11::freePixmap(d->id);
-    d->id = x11::createBitmap(bits.data(), w, h);
+    PixmapData* own = newData(w, h, 1);
+    if (own->id) {
+        std::vector<uchar> bits(data, data + (w + 7) / 8 * h);
+        if (!isXbitmap)
+            std::transform(bits.begin(), bits.end(), bits.begin(), mirrored);
+        x11::freePixmap(own->id);
+        own->id = x11::createBitmap(bits.data(), w, h);
+    }
+    setData(own);
 }
 
 QPixmap::QPixmap(const QPixmap& other) : QPaintDevice(PixmapDevice), Qt(other), d(other.d)
 {
     ++d->references;
+    hd = d->id;
 }
 
 QPixmap::~QPixmap()
@@ -149,8 +149,7 @@ QPixmap& QPixmap::operator=(const QPixmap& other)
         return *this;
     }
     ++other.d->references;
-    release(d);
-    d = other.d;
+    setData(other.d);
     return *this;
 }
 
@@ -164,11 +163,7 @@ void QPixmap::setData(PixmapData* data)
 {
     release(d);
     d = data;
-}
-
-Qt::HANDLE QPixmap::handle() const
-{
-    return d->id;
+    hd = d->id;
 }
 
 void QPixmap::detach()

@@ -204,6 +204,10 @@ bool QLineEdit::event(QEvent* event)
             taken = taken || (modifiers == ControlButton && key->key() == each);
         if (taken)
             key->accept();
+    } else if (event->type() == QEvent::Timer &&
+               static_cast<QTimerEvent*>(event)->timerId() == d->blinkTimer) {
+        d->cursorVisible = !d->cursorVisible;
+        repaint(false);
     }
     return QFrame::event(event);
 }

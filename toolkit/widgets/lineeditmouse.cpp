@@ -134,14 +134,6 @@ void QLineEdit::focusOutEvent(QFocusEvent*)
     emit lostFocus();
 }
 
-void QLineEdit::timerEvent(QTimerEvent* event)
-{
-    if (event->timerId() != d->blinkTimer)
-        return;
-    d->cursorVisible = !d->cursorVisible;
-    repaint(false);
-}
-
 void QLineEdit::windowActivationChange(bool)
 {
     update();

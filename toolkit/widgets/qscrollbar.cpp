@@ -50,6 +50,7 @@ QScrollBar::~QScrollBar()
 void QScrollBar::init(Orientation orientation)
 {
     d = new zeltk::ScrollBarData;
+    connect(&d->repeatTimer, SIGNAL(timeout()), SLOT(doAutoRepeat()));
     d->orientation = orientation;
     zeltk::ensureStyled();
     setFocusPolicy(NoFocus);

@@ -2,7 +2,7 @@
 #ifndef ZELTK_SCROLLBARDATA_H
 #define ZELTK_SCROLLBARDATA_H
 
-#include <qnamespace.h>
+#include <qtimer.h>
 
 namespace zeltk
 {
@@ -18,7 +18,7 @@ struct ScrollBarData {
     int grabbedAt = 0;    // from the slider's start
     int pointer = 0;      // along the bar
     bool repeats = false; // after the first wait
-    int repeatTimer = 0;
+    QTimer repeatTimer;
     int wheelRest = 0; // what was too little for a step
 };
 

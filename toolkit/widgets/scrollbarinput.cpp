@@ -172,28 +172,19 @@ void QScrollBar::contextMenuEvent(QContextMenuEvent* event)
 void QScrollBar::startAutoRepeat()
 {
     d->repeats = false;
-    d->repeatTimer = startTimer(firstRepeat);
+    d->repeatTimer.start(firstRepeat);
 }
 
 void QScrollBar::stopAutoRepeat()
 {
-    if (d->repeatTimer)
-        killTimer(d->repeatTimer);
-    d->repeatTimer = 0;
-}
-
-void QScrollBar::timerEvent(QTimerEvent* event)
-{
-    if (event->timerId() == d->repeatTimer)
-        doAutoRepeat();
+    d->repeatTimer.stop();
 }
 
 // Paging stops when the slider has come to the pointer.
 void QScrollBar::doAutoRepeat()
 {
     if (!d->repeats) {
-        killTimer(d->repeatTimer);
-        d->repeatTimer = startTimer(laterRepeats);
+        d->repeatTimer.changeInterval(laterRepeats);
         d->repeats = true;
     }
     const bool atPointer =
