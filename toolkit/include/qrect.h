@@ -4,6 +4,14 @@
 
 #include <qsize.h>
 
+namespace zeltk
+{
+inline int lastOf(int first, int count)
+{
+    return difference(sum(first, count), 1);
+}
+} // namespace zeltk
+
 //! right() and bottom() are the last pixels inside: left() + width() - 1, top() + height() - 1.
 class Q_EXPORT QRect
 {
@@ -14,11 +22,12 @@ public:
     {
     }
     QRect(const QPoint& topLeft, const QSize& size)
-        : x1(topLeft.x()), y1(topLeft.y()), x2(lastOf(x1, size.width())), y2(lastOf(y1, size.height()))
+        : x1(topLeft.x()), y1(topLeft.y()), x2(zeltk::lastOf(x1, size.width())),
+          y2(zeltk::lastOf(y1, size.height()))
     {
     }
     QRect(int left, int top, int width, int height)
-        : x1(left), y1(top), x2(lastOf(left, width)), y2(lastOf(top, height))
+        : x1(left), y1(top), x2(zeltk::lastOf(left, width)), y2(zeltk::lastOf(top, height))
     {
     }
 
@@ -128,8 +137,8 @@ public:
     QSize size() const { return QSize(width(), height()); }
     int width() const { return zeltk::sum(zeltk::difference(x2, x1), 1); }
     int height() const { return zeltk::sum(zeltk::difference(y2, y1), 1); }
-    void setWidth(int width) { x2 = lastOf(x1, width); }
-    void setHeight(int height) { y2 = lastOf(y1, height); }
+    void setWidth(int width) { x2 = zeltk::lastOf(x1, width); }
+    void setHeight(int height) { y2 = zeltk::lastOf(y1, height); }
     void setSize(const QSize& size)
     {
         setWidth(size.width());
@@ -157,8 +166,6 @@ public:
     friend bool operator!=(const QRect& a, const QRect& b) { return !(a == b); }
 
 private:
-    static int lastOf(int first, int count) { return zeltk::difference(zeltk::sum(first, count), 1); }
-
     QCOORD x1;
     QCOORD y1;
     QCOORD x2;
