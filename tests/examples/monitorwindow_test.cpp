@@ -17,8 +17,9 @@
 #include <fstream>
 #include <malloc.h>
 #include <unistd.h>
+
 #if defined(__SANITIZE_ADDRESS__)
-#include <sanitizer/allocator_interface.h>
+extern "C" size_t __sanitizer_get_current_allocated_bytes(void); // gcc installs no header with it
 #endif
 
 namespace
