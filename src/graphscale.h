@@ -5,8 +5,12 @@
 // Rounds to a double where the processor computes with more digits, so that every machine shows the same.
 inline double asDouble(double number)
 {
+#if defined(__FLT_EVAL_METHOD__) && __FLT_EVAL_METHOD__ == 0
+    return number;
+#else
     volatile double rounded = number;
     return rounded;
+#endif
 }
 
 // The seconds from one time to another, as a number of 32 bits that may wrap around.

@@ -167,19 +167,20 @@ void ZelGraph::paintEvent(QPaintEvent* event)
 
 void ZelGraph::drawGrid(QPainter& painter, const QRect& area) const
 {
-    QPointArray ends;
-    int lines = 0;
-    const double spacing = hGridCount == -1 || hGridCount == 0 ? 0.0 : area.height() / (double)hGridCount;
-    if (spacing >= 1.0) {
-        const int step = (int)spacing;
-        for (int y = area.bottom() - step; y >= 0; y -= step)
-            ends.putPoints(2 * lines++, 2, area.left(), y, area.right(), y);
+    const int step = hGridCount > 0 ? area.height() / hGridCount : 0;
+    const int rows = step > 0 ? area.bottom() / step : 0;
+    const int columns = vGridStep > 0 ? (area.width() - 1) / vGridStep : 0;
+    QPointArray ends(2 * (rows + columns));
+    int end = 0;
+    for (int i = 1; i <= rows; ++i) {
+        const int y = area.bottom() - i * step;
+        ends.setPoint(end++, area.left(), y);
+        ends.setPoint(end++, area.right(), y);
     }
-    if (vGridStep > 0) {
-        for (int x = area.left(); x <= area.right() - vGridStep;) {
-            x += vGridStep;
-            ends.putPoints(2 * lines++, 2, x, area.top(), x, area.bottom());
-        }
+    for (int i = 1; i <= columns; ++i) {
+        const int x = area.left() + i * vGridStep;
+        ends.setPoint(end++, x, area.top());
+        ends.setPoint(end++, x, area.bottom());
     }
     painter.setPen(gridColor);
     painter.drawLineSegments(ends);

@@ -7,7 +7,11 @@
 namespace zeltk
 {
 
-struct ArrayData;
+struct ArrayData {
+    int references;
+    char* bytes;
+    uint length;
+};
 
 // Bytes shared by reference counting: what QMemArray<type> stands on.
 class Q_EXPORT RawArray
@@ -18,8 +22,8 @@ public:
     ~RawArray();
     void share(const RawArray& other);
     bool isNull() const;
-    char* bytes() const;
-    uint length() const;
+    char* bytes() const { return d ? d->bytes : 0; }
+    uint length() const { return d ? d->length : 0; }
     bool resize(uint length);
     void assign(const char* bytes, uint length);
     void detach();

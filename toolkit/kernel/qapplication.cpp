@@ -8,6 +8,7 @@
 #include "x11/connection.h"
 #include "x11/errors.h"
 #include "x11/input.h"
+#include "x11/pixmap.h"
 
 #include <qeventloop.h>
 #include <qtranslator.h>
@@ -131,8 +132,10 @@ QApplication::~QApplication()
     app->translators.clear();
     app->loop = nullptr;
     qApp = nullptr;
-    if (x11::connected())
+    if (x11::connected()) {
+        x11::freeRecycledPixmaps();
         x11::flush();
+    }
 }
 
 int QApplication::argc() const

@@ -194,10 +194,8 @@ x11::GcKey PainterData::brushKey(const QBrush& brush) const
     return key;
 }
 
-const x11::GcSlot* PainterData::forPen()
+const x11::GcSlot* PainterData::takePenGc()
 {
-    if (penGc.valid())
-        return penGc.slot;
     x11::GcKey key = baseKey();
     key.lineWidth = static_cast<int>(state.pen.width());
     key.cap = capOf(state.pen.capStyle());
@@ -212,10 +210,8 @@ const x11::GcSlot* PainterData::forPen()
     return penGc.slot;
 }
 
-const x11::GcSlot* PainterData::forBrush()
+const x11::GcSlot* PainterData::takeBrushGc()
 {
-    if (brushGc.valid())
-        return brushGc.slot;
     brushGc.slot = x11::gcFor(brushKey(state.brush));
     brushGc.version = brushGc.slot->version;
     return brushGc.slot;
@@ -236,15 +232,16 @@ QRect PainterData::mapRect(const QRect& rect) const
 std::vector<x11::Point> PainterData::mapPoints(const QPointArray& points, int index, int count) const
 {
     const int size = static_cast<int>(points.size());
-    index = std::max(index, 0);
-    const int end = count < 0 ? size : std::min(size, index + count);
-    std::vector<x11::Point> result;
-    for (int i = index; i < end; ++i) {
-        int x = points.at(static_cast<uint>(i)).x();
-        int y = points.at(static_cast<uint>(i)).y();
+    index = std::min(std::max(index, 0), size);
+    std::vector<x11::Point> result(
+        static_cast<size_t>(count < 0 ? size - index : std::min(size - index, count)));
+    const QPoint* const from = points.data() + index;
+    std::transform(from, from + result.size(), result.begin(), [this](const QPoint& point) {
+        int x = point.x();
+        int y = point.y();
         map(&x, &y);
-        result.push_back({static_cast<short>(x), static_cast<short>(y)});
-    }
+        return x11::Point{static_cast<short>(x), static_cast<short>(y)};
+    });
     return result;
 }
 

@@ -71,10 +71,14 @@ struct PainterData {
     unsigned long pixelOf(const QColor& color) const;
     x11::GcKey baseKey() const;
     x11::GcKey brushKey(const QBrush& brush) const;
-    const x11::GcSlot* forPen();
-    const x11::GcSlot* forBrush();
+    const x11::GcSlot* forPen() { return penGc.valid() ? penGc.slot : takePenGc(); }
+    const x11::GcSlot* forBrush() { return brushGc.valid() ? brushGc.slot : takeBrushGc(); }
+    const x11::GcSlot* takePenGc();
+    const x11::GcSlot* takeBrushGc();
 
     bool hasPen() const { return state.pen.style() != Qt::NoPen; }
+    // Open, and lines show.
+    bool strokes() const { return device && hasPen(); }
     bool hasBrush() const { return state.brush.style() != Qt::NoBrush; }
 
     // From the program's coordinates to the device's.

@@ -8,7 +8,7 @@ namespace x11 = zeltk::x11;
 // Points are one pixel, however wide the pen is.
 void QPainter::drawPoint(int x, int y)
 {
-    if (!isActive() || !d->hasPen())
+    if (!d->strokes())
         return;
     d->map(&x, &y);
     x11::drawPoints(d->drawable, d->forPen(), {{static_cast<short>(x), static_cast<short>(y)}});
@@ -16,7 +16,7 @@ void QPainter::drawPoint(int x, int y)
 
 void QPainter::drawPoints(const QPointArray& points, int index, int count)
 {
-    if (!isActive() || !d->hasPen())
+    if (!d->strokes())
         return;
     const std::vector<x11::Point> mapped = d->mapPoints(points, index, count);
     if (!mapped.empty())
@@ -36,7 +36,7 @@ void QPainter::lineTo(int x, int y)
 
 void QPainter::drawLine(int x1, int y1, int x2, int y2)
 {
-    if (!isActive() || !d->hasPen())
+    if (!d->strokes())
         return;
     d->map(&x1, &y1);
     d->map(&x2, &y2);
@@ -45,19 +45,16 @@ void QPainter::drawLine(int x1, int y1, int x2, int y2)
 
 void QPainter::drawLineSegments(const QPointArray& points, int index, int lineCount)
 {
-    if (!isActive() || !d->hasPen())
+    if (!d->strokes())
         return;
     const std::vector<x11::Point> mapped = d->mapPoints(points, index, lineCount < 0 ? -1 : 2 * lineCount);
-    std::vector<x11::Segment> segments;
-    for (size_t i = 0; i + 1 < mapped.size(); i += 2)
-        segments.push_back({mapped[i].x, mapped[i].y, mapped[i + 1].x, mapped[i + 1].y});
-    if (!segments.empty())
-        x11::drawSegments(d->drawable, d->forPen(), segments);
+    if (mapped.size() > 1)
+        x11::drawSegments(d->drawable, d->forPen(), mapped);
 }
 
 void QPainter::drawPolyline(const QPointArray& points, int index, int count)
 {
-    if (!isActive() || !d->hasPen())
+    if (!d->strokes())
         return;
     const std::vector<x11::Point> mapped = d->mapPoints(points, index, count);
     if (mapped.size() > 1)

@@ -65,11 +65,9 @@ void QPainter::drawWinFocusRect(int x, int y, int w, int h, const QColor& backgr
     const auto first = static_cast<short>(top + 1);
     const auto last = static_cast<short>(bottom - 1);
     // The dots begin anew on each side.
-    std::vector<x11::Segment> sides = {{left, top, right, top}, {left, bottom, right, bottom}};
-    if (first <= last) {
-        sides.push_back({left, first, left, last});
-        sides.push_back({right, first, right, last});
-    }
+    std::vector<x11::Point> sides = {{left, top}, {right, top}, {left, bottom}, {right, bottom}};
+    if (first <= last)
+        sides.insert(sides.end(), {{left, first}, {left, last}, {right, first}, {right, last}});
     x11::drawSegments(d->drawable, x11::gcFor(key), sides);
 }
 
@@ -110,7 +108,7 @@ void QPainter::drawEllipse(int x, int y, int w, int h)
 
 void QPainter::drawArc(int x, int y, int w, int h, int startAngle, int angleLength)
 {
-    if (!isActive() || !d->hasPen() || w == 0 || h == 0)
+    if (!d->strokes() || w == 0 || h == 0)
         return;
     const QRect rect = mirroredRect(x, y, w, h);
     if (!d->mapsRectsToRects()) {

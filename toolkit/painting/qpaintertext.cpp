@@ -121,7 +121,7 @@ QString firstOf(const QString& text, int length)
 
 void QPainter::drawText(int x, int y, const QString& text, int length, TextDirection)
 {
-    if (!isActive() || !d->hasPen())
+    if (!d->strokes())
         return;
     const QString part = firstOf(text, length);
     if (!part.isEmpty())

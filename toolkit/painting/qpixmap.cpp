@@ -70,7 +70,7 @@ void release(PixmapData* data)
     if (--data->references > 0)
         return;
     delete data->mask;
-    x11::freePixmap(data->id);
+    x11::recyclePixmap(data->id, data->width, data->height, data->depth);
     delete data;
 }
 

@@ -44,6 +44,11 @@ RegionData* dataOf(const QRect& rect, QRegion::RegionType type)
     return newData({{rect.top(), rect.bottom() + 1, {{rect.left(), rect.right() + 1}}}});
 }
 
+bool isRect(const RegionData* data)
+{
+    return data->bands.size() == 1 && data->bands.front().spans.size() == 1;
+}
+
 } // namespace
 
 QRegion::QRegion() : d(emptyData()) {}
@@ -129,6 +134,9 @@ QRegion QRegion::unite(const QRegion& other) const
 
 QRegion QRegion::intersect(const QRegion& other) const
 {
+    // Mostly a part that lies within is cut to the rectangle of the whole.
+    if (!isEmpty() && isRect(other.d) && other.boundingRect().contains(boundingRect()))
+        return *this;
     return QRegion(newData(combined(d->bands, other.d->bands, SetOperation::Intersect)));
 }
 

@@ -6,12 +6,6 @@
 namespace zeltk
 {
 
-struct ArrayData {
-    int references;
-    char* bytes;
-    uint length;
-};
-
 // Arrays without data share nothing; a null pointer is an array of its own.
 RawArray::RawArray() : d(nullptr) {}
 
@@ -52,16 +46,6 @@ void RawArray::share(const RawArray& other)
 bool RawArray::isNull() const
 {
     return bytes() == nullptr;
-}
-
-char* RawArray::bytes() const
-{
-    return d ? d->bytes : nullptr;
-}
-
-uint RawArray::length() const
-{
-    return d ? d->length : 0;
 }
 
 bool RawArray::resize(uint length)

@@ -12,10 +12,10 @@ namespace zeltk
 namespace x11
 {
 
+_XDisplay* server = nullptr;
+
 namespace
 {
-
-Display* server = nullptr;
 
 // From the size that the server tells.
 double dotsPerInch(int pixels, int millimetres)
@@ -44,11 +44,6 @@ bool openConnection(const std::string& name)
 bool connected()
 {
     return server != nullptr;
-}
-
-_XDisplay* display()
-{
-    return server;
 }
 
 std::string displayName()

@@ -21,7 +21,11 @@ bool openConnection(const std::string& displayName);
 bool connected();
 
 // Null while there is no connection.
-_XDisplay* display();
+extern _XDisplay* server;
+inline _XDisplay* display()
+{
+    return server;
+}
 std::string displayName();
 int screen();
 XId rootWindow();

@@ -10,7 +10,7 @@ namespace zeltk
 namespace x11
 {
 
-static_assert(sizeof(Point) == sizeof(XPoint) && sizeof(Segment) == sizeof(XSegment),
+static_assert(sizeof(Point) == sizeof(XPoint) && 2 * sizeof(Point) == sizeof(XSegment),
               "passed on as they are");
 
 void drawLine(XId drawable, const GcSlot* gc, int x1, int y1, int x2, int y2)
@@ -30,11 +30,10 @@ void drawPolyline(XId drawable, const GcSlot* gc, const std::vector<Point>& poin
                static_cast<int>(points.size()), CoordModeOrigin);
 }
 
-void drawSegments(XId drawable, const GcSlot* gc, const std::vector<Segment>& segments)
+void drawSegments(XId drawable, const GcSlot* gc, const std::vector<Point>& ends)
 {
-    XDrawSegments(display(), drawable, gc->gc,
-                  reinterpret_cast<XSegment*>(const_cast<Segment*>(segments.data())),
-                  static_cast<int>(segments.size()));
+    XDrawSegments(display(), drawable, gc->gc, reinterpret_cast<XSegment*>(const_cast<Point*>(ends.data())),
+                  static_cast<int>(ends.size() / 2));
 }
 
 void drawRectangle(XId drawable, const GcSlot* gc, int x, int y, int width, int height)

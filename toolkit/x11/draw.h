@@ -13,17 +13,12 @@ struct Point {
     short x;
     short y;
 };
-struct Segment {
-    short x1;
-    short y1;
-    short x2;
-    short y2;
-};
 
 void drawLine(XId drawable, const GcSlot* gc, int x1, int y1, int x2, int y2);
 void drawPoints(XId drawable, const GcSlot* gc, const std::vector<Point>& points);
 void drawPolyline(XId drawable, const GcSlot* gc, const std::vector<Point>& points);
-void drawSegments(XId drawable, const GcSlot* gc, const std::vector<Segment>& segments);
+// Each two points are the ends of a line; a last one without a partner is left out.
+void drawSegments(XId drawable, const GcSlot* gc, const std::vector<Point>& ends);
 // The outline; it reaches one pixel further than width and height.
 void drawRectangle(XId drawable, const GcSlot* gc, int x, int y, int width, int height);
 void fillRectangle(XId drawable, const GcSlot* gc, int x, int y, int width, int height);

@@ -13,8 +13,52 @@ namespace zeltk
 namespace x11
 {
 
+namespace
+{
+
+struct Spare {
+    XId id;
+    int width;
+    int height;
+    int depth;
+    long pixels() const { return static_cast<long>(width) * height; }
+};
+
+constexpr size_t mostSpares = 4;
+constexpr long mostSparePixels = 2000000; // all together
+
+// Never destroyed: pixmaps that outlive main() still come here.
+std::vector<Spare>& spares()
+{
+    static auto* const kept = new std::vector<Spare>;
+    return *kept;
+}
+
+void freeOldestSpare()
+{
+    XFreePixmap(display(), spares().front().id);
+    spares().erase(spares().begin());
+}
+
+bool tooManySpares()
+{
+    long pixels = 0;
+    for (const Spare& spare : spares())
+        pixels += spare.pixels();
+    return spares().size() > mostSpares || pixels > mostSparePixels;
+}
+
+} // namespace
+
 XId createPixmap(int width, int height, int depth)
 {
+    std::vector<Spare>& kept = spares();
+    for (auto spare = kept.begin(); spare != kept.end(); ++spare)
+        if (spare->width == width && spare->height == height && spare->depth == depth) {
+            const XId pixmap = spare->id;
+            kept.erase(spare);
+            return pixmap;
+        }
     return XCreatePixmap(display(), rootWindow(), static_cast<unsigned>(width), static_cast<unsigned>(height),
                          static_cast<unsigned>(depth));
 }
@@ -26,6 +70,26 @@ void freePixmap(XId pixmap)
     forgetDrawable(pixmap);
     forgetPattern(pixmap);
     XFreePixmap(display(), pixmap);
+}
+
+void recyclePixmap(XId pixmap, int width, int height, int depth)
+{
+    const Spare spare = {pixmap, width, height, depth};
+    if (!connected() || !pixmap || spare.pixels() > mostSparePixels) {
+        freePixmap(pixmap);
+        return;
+    }
+    forgetDrawable(pixmap);
+    forgetPattern(pixmap);
+    spares().push_back(spare);
+    while (tooManySpares())
+        freeOldestSpare();
+}
+
+void freeRecycledPixmaps()
+{
+    while (!spares().empty())
+        freeOldestSpare();
 }
 
 XId createBitmap(const unsigned char* bits, int width, int height)

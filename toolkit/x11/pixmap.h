@@ -14,6 +14,10 @@ namespace x11
 
 XId createPixmap(int width, int height, int depth);
 void freePixmap(XId pixmap);
+// Frees a pixmap from createPixmap(), or keeps a few that were dropped last for the next ones of the same
+// size: what paints through a pixmap of its own makes the same one over and over.
+void recyclePixmap(XId pixmap, int width, int height, int depth);
+void freeRecycledPixmaps();
 // Rows of whole bytes, the lowest bit leftmost.
 XId createBitmap(const unsigned char* bits, int width, int height);
 
