@@ -161,6 +161,17 @@ TEST_F(Box, StretchCountsMoreThanExpanding)
     EXPECT_EQ(widths(100), (Widths{20, 20, 60}));
 }
 
+TEST_F(Box, WithStretchWantsToExpandItself)
+{
+    make(right);
+    addAcross(QSizePolicy::Preferred, 30);
+    EXPECT_EQ(box->expanding(), QSizePolicy::NoDirection);
+    box->setStretchFactor(addAcross(QSizePolicy::Preferred, 30), 1);
+    EXPECT_EQ(box->expanding(), QSizePolicy::Horizontally);
+    box->setDirection(down);
+    EXPECT_EQ(box->expanding(), QSizePolicy::Vertically);
+}
+
 TEST_F(Box, StretchSharesInProportionAndLeavesNoPixelOut)
 {
     make(right);

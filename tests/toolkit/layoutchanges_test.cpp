@@ -178,6 +178,15 @@ TEST_F(Row, FontOfTheWindowReachesTheHints)
     EXPECT_EQ(label->x() + label->width(), 195);
 }
 
+TEST_F(Row, KeepsItsMinimumInsideOfAWindowOnlyIfWished)
+{
+    panel->resize(1, 1);
+    EXPECT_EQ(panel->size(), QSize(1, 1));
+    row->setResizeMode(QLayout::Minimum);
+    EXPECT_EQ(panel->minimumSize(), QSize(30, 50));
+    EXPECT_EQ(panel->size(), QSize(30, 50));
+}
+
 TEST_F(Row, OneRequestIsEnoughForManyChanges)
 {
     EventCount hints(panel, QEvent::LayoutHint);
