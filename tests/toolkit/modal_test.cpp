@@ -102,3 +102,34 @@ TEST_F(Modal, TheLastOneCounts)
     second.hide();
     EXPECT_EQ(&modal, QApplication::activeModalWidget());
 }
+
+// Deletes a window as soon as a widget is left.
+class DeletesWhenLeft : public QObject
+{
+public:
+    DeletesWhenLeft(QWidget* left, QWidget* window) : m_window(window) { left->installEventFilter(this); }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Leave) {
+            delete m_window;
+            m_window = nullptr;
+        }
+        return false;
+    }
+
+private:
+    QWidget* m_window;
+};
+
+TEST_F(Modal, OneThatDiesAsItIsShownIsGone)
+{
+    QWidget* doomed = new QWidget(nullptr, "doomed", Qt::WType_Dialog | Qt::WShowModal);
+    xinput::moveTo(&top, 5, 5);
+    settle();
+    DeletesWhenLeft watcher(&top, doomed);
+    doomed->show();
+    EXPECT_NE(doomed, QApplication::activeModalWidget());
+    settle();
+}

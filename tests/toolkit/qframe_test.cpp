@@ -208,3 +208,9 @@ TEST_F(FrameLook, ContentsDoNotPaintOverTheFrame)
         "BBBBBBBBBB\nB........B\nB.rrrrrr.B\nB.rrrrrr.B\nB.rrrrrr.B\nB.rrrrrr.B\nB........B\nBBBBBBBBBB\n",
         look(QFrame::Box | QFrame::Plain));
 }
+
+TEST_F(FrameLook, AFrameWiderThanAnyScreenIsDrawnNevertheless)
+{
+    for (const int shape : {QFrame::Panel, QFrame::Box, QFrame::WinPanel, QFrame::StyledPanel})
+        EXPECT_EQ(look(shape | QFrame::Raised, 40000), look(shape | QFrame::Raised, 1 << 30)) << shape;
+}

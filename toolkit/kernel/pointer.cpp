@@ -106,15 +106,18 @@ void wheel(QWidget* widget, const x11::Event& e)
     const QPoint global(e.rootX, e.rootY);
     const bool sideways = e.button > 5 || (e.state & altBit);
     const int delta = e.button % 2 == 0 ? 120 : -120;
+    const QGuardedPtr<QWidget> under(widget);
     const QGuardedPtr<QWidget> focus(application()->focus);
-    for (QWidget* receiver : {widget, application()->focus}) {
-        if (!receiver || (receiver != widget && focus.isNull()) || !takesPointer(receiver))
+    for (const QGuardedPtr<QWidget>& receiver : {under, focus}) {
+        if (receiver.isNull() || !takesPointer(receiver))
             continue;
-        if (receiver == widget)
+        if (static_cast<QWidget*>(receiver) == widget)
             focusBy(widget, QWidget::WheelFocus);
+        if (receiver.isNull())
+            continue;
         QWheelEvent event(receiver->mapFromGlobal(global), global, delta, stateOf(e.state),
                           sideways ? Qt::Horizontal : Qt::Vertical);
-        if ((sendSpontaneous(receiver, &event) && event.isAccepted()) || focus.isNull() ||
+        if ((sendSpontaneous(receiver, &event) && event.isAccepted()) || focus.isNull() || under.isNull() ||
             isInside(focus, widget))
             return;
     }
@@ -129,7 +132,8 @@ void pressBesidePopup(QWidget* popup, QWidget* beneath, const x11::Event& e)
         return;
     application()->pressed = beneath;
     focusBy(beneath, QWidget::ClickFocus);
-    press(beneath, QEvent::MouseButtonPress, e);
+    if (!alive.isNull())
+        press(beneath, QEvent::MouseButtonPress, e);
 }
 
 // ---- enter and leave
@@ -200,8 +204,10 @@ void buttonDown(QWidget* widget, const x11::Event& e)
     }
     if (!app->mouseGrabber)
         app->pressed = target;
+    const QGuardedPtr<QWidget> alive(target);
     focusBy(target, QWidget::ClickFocus);
-    press(target, twice ? QEvent::MouseButtonDblClick : QEvent::MouseButtonPress, e);
+    if (!alive.isNull())
+        press(target, twice ? QEvent::MouseButtonDblClick : QEvent::MouseButtonPress, e);
 }
 
 void buttonUp(QWidget* widget, const x11::Event& e)

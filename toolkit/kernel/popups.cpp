@@ -6,6 +6,8 @@
 #include "x11/events.h"
 #include "x11/input.h"
 
+#include <qguardedptr.h>
+
 #include <algorithm>
 
 namespace zeltk
@@ -40,7 +42,10 @@ void popupHidden(QWidget* popup)
 
 void modalShown(QWidget* modal)
 {
+    const QGuardedPtr<QWidget> alive(modal);
     leaveHovered();
+    if (!alive || !alive->isVisible())
+        return;
     application()->modals.push_back(modal);
     application()->pressed = nullptr;
 }

@@ -82,6 +82,16 @@ void moveFocus(QWidget* widget, QFocusEvent::Reason reason)
         sendFocus(widget, QEvent::FocusIn, reason);
 }
 
+// From the widget itself, whatever its proxy.
+static void takeFocusFrom(QWidget* widget)
+{
+    WidgetData* window = dataOf(widget->topLevelWidget());
+    if (window->focus == widget)
+        window->focus = nullptr;
+    if (application()->focus == widget)
+        moveFocus(nullptr, QFocusEvent::Other);
+}
+
 void setActive(QWidget* window)
 {
     ApplicationData* app = application();
@@ -104,7 +114,7 @@ void setActive(QWidget* window)
             for (QWidget* candidate : dataOf(window)->tabOrder)
                 if (!focus && candidate != window && takesTab(candidate))
                     focus = candidate;
-            if (!focus && window->focusPolicy() != QWidget::NoFocus)
+            if (!focus && window->isEnabled() && window->focusPolicy() != QWidget::NoFocus)
                 focus = window;
             dataOf(window)->focus = focus;
         }
@@ -146,9 +156,9 @@ void passFocusOn(QWidget* widget)
     if (dataOf(widget->topLevelWidget())->focus != widget || widget->isTopLevel())
         return;
     const QGuardedPtr<QWidget> alive(widget);
-    const bool passed = widget->hasFocus() && WidgetAccess::focusNextPrev(widget, true);
+    const bool passed = application()->focus == widget && WidgetAccess::focusNextPrev(widget, true);
     if (!passed && alive)
-        widget->clearFocus();
+        takeFocusFrom(widget);
 }
 
 } // namespace
@@ -168,7 +178,7 @@ void widgetDisabled(QWidget* widget)
 {
     const QWidget* parent = widget->parentWidget(true);
     if (!parent || !parent->isEnabled())
-        widget->clearFocus();
+        takeFocusFrom(widget);
     else
         passFocusOn(widget);
 }
@@ -264,11 +274,7 @@ void QWidget::clearFocus()
         w->focusProxy->clearFocus();
         return;
     }
-    QWidget* window = topLevelWidget();
-    if (dataOf(window)->focus == this)
-        dataOf(window)->focus = nullptr;
-    if (hasFocus())
-        zeltk::moveFocus(nullptr, QFocusEvent::Other);
+    zeltk::takeFocusFrom(this);
 }
 
 bool QWidget::focusNextPrevChild(bool next)

@@ -26,20 +26,24 @@ void takeFirstSize(QWidget* window)
         window->adjustSize();
 }
 
+// Who hears of what happens to one of them may delete any.
+std::vector<QGuardedPtr<QWidget>> guardedChildren(QWidget* widget)
+{
+    const std::vector<QWidget*> children = zeltk::childWidgets(widget);
+    return std::vector<QGuardedPtr<QWidget>>(children.begin(), children.end());
+}
+
 void showChildren(QWidget* widget)
 {
-    for (QWidget* child : zeltk::childWidgets(widget))
-        if (!child->isTopLevel() && !child->isHidden())
+    for (const QGuardedPtr<QWidget>& child : guardedChildren(widget))
+        if (child && !child->isTopLevel() && !child->isHidden())
             child->show();
 }
 
-// Windows inside a hidden one need not be unmapped; they reappear with it. Who hears of a lost focus may
-// delete any of them.
+// Windows inside a hidden one need not be unmapped; they reappear with it.
 void hideChildren(QWidget* widget)
 {
-    const std::vector<QWidget*> children = zeltk::childWidgets(widget);
-    const std::vector<QGuardedPtr<QWidget>> guarded(children.begin(), children.end());
-    for (const QGuardedPtr<QWidget>& child : guarded) {
+    for (const QGuardedPtr<QWidget>& child : guardedChildren(widget)) {
         if (!child || child->isTopLevel() || !child->isVisible())
             continue;
         WidgetAccess::clearState(child, Qt::WState_Visible);
@@ -141,10 +145,12 @@ void QWidget::show()
         deliver(container, QEvent::ChildInserted);
     setWState(WState_Visible);
     zeltk::applyBackground(this); // the group of a visible widget depends on its window
+    const QGuardedPtr<QWidget> alive(this);
     showChildren(this);
     QShowEvent event;
-    QApplication::sendEvent(this, &event);
-    if (isVisible())
+    if (alive)
+        QApplication::sendEvent(this, &event);
+    if (alive && isVisible())
         showWindow(this);
 }
 
@@ -256,7 +262,10 @@ void QWidget::reparent(QWidget* parent, WFlags f, const QPoint& pos, bool showIt
             if (!child->isTopLevel())
                 forgetVisible(child);
     }
+    const QGuardedPtr<QWidget> alive(this);
     zeltk::widgetHidden(this);
+    if (!alive)
+        return;
     hideWindow(this);
     zeltk::leaveTabOrder(this);
     if (QObject* old = this->parent())
@@ -270,11 +279,14 @@ void QWidget::reparent(QWidget* parent, WFlags f, const QPoint& pos, bool showIt
         clearWState(WState_ForceHide);
     zeltk::joinTabOrder(this);
     zeltk::refreshEnabled(this);
+    if (!alive)
+        return;
     zeltk::inheritLook(this);
     setGeometry(pos.x(), pos.y(), keptSize.width(), keptSize.height());
     if (showIt)
         show();
-    sendPlain(this, QEvent::Reparent);
+    if (alive)
+        sendPlain(this, QEvent::Reparent);
 }
 
 void QWidget::reparent(QWidget* parent, const QPoint& pos, bool showIt)

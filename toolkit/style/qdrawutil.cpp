@@ -26,17 +26,23 @@ private:
     QBrush brush;
 };
 
+// No device has room for more lines.
+int drawable(int lines)
+{
+    return std::min(lines, 32767);
+}
+
 // A bevel of so many lines on each side. All of the upper left is drawn before all of the lower right, which
 // so owns the corners on the diagonal, and whatever both reach in a panel smaller than its own lines.
 void drawBevel(QPainter* p, const QRect& r, int lines, const QColor& upperLeft, const QColor& lowerRight)
 {
     p->setPen(upperLeft);
-    for (int i = 0; i < lines; ++i) {
+    for (int i = 0; i < drawable(lines); ++i) {
         p->drawLine(r.left(), r.top() + i, r.right() - 1 - i, r.top() + i);
         p->drawLine(r.left() + i, r.top() + lines - i, r.left() + i, r.bottom() - 1);
     }
     p->setPen(lowerRight);
-    for (int i = 0; i < lines; ++i) {
+    for (int i = 0; i < drawable(lines); ++i) {
         p->drawLine(r.left() + i, r.bottom() - i, r.right(), r.bottom() - i);
         p->drawLine(r.right() - i, r.top() + i, r.right() - i, r.bottom() - lines);
     }
@@ -125,7 +131,7 @@ void qDrawShadeLine(QPainter* p, int x1, int y1, int x2, int y2, const QColorGro
     if (y1 == y2) {
         const QRect box(std::min(x1, x2), y1 - total / 2, QABS(x2 - x1), total);
         p->fillRect(inside(box, lineWidth), g.mid());
-        for (int i = 0; i < lineWidth; ++i) {
+        for (int i = 0; i < drawable(lineWidth); ++i) {
             const QRect r = inside(box, i);
             p->setPen(first);
             p->drawLine(r.left(), r.top(), r.right(), r.top());
@@ -169,15 +175,15 @@ void qDrawShadeRect(QPainter* p, int x, int y, int w, int h, const QColorGroup& 
     const int middle = lineWidth + midLineWidth;
     p->setBrush(Qt::NoBrush);
     p->setPen(upperLeft);
-    for (int i = 0; i < lineWidth; ++i) {
+    for (int i = 0; i < drawable(lineWidth); ++i) {
         drawUpperLeft(p, inside(all, i));
         drawLowerRight(p, inside(all, middle + i), 0);
     }
     p->setPen(g.mid());
-    for (int i = 0; i < midLineWidth; ++i)
+    for (int i = 0; i < drawable(midLineWidth); ++i)
         p->drawRect(inside(all, lineWidth + i));
     p->setPen(lowerRight);
-    for (int i = 0; i < lineWidth; ++i) {
+    for (int i = 0; i < drawable(lineWidth); ++i) {
         drawLowerRight(p, inside(all, i), 1);
         drawUpperLeft(p, inside(all, middle + i));
     }
@@ -255,7 +261,7 @@ void qDrawPlainRect(QPainter* p, int x, int y, int w, int h, const QColor& color
     const KeepsTools keep(p);
     p->setPen(color);
     p->setBrush(Qt::NoBrush);
-    for (int i = 0; i < lineWidth; ++i)
+    for (int i = 0; i < drawable(lineWidth); ++i)
         p->drawRect(inside(QRect(x, y, w, h), i));
     fillInside(p, inside(QRect(x, y, w, h), lineWidth), fill);
 }

@@ -3,6 +3,7 @@
 
 #include <qapplication.h>
 #include <qevent.h>
+#include <qguardedptr.h>
 #include <qpainter.h>
 
 #include <algorithm>
@@ -38,22 +39,29 @@ int QListBox::itemHeight(int index) const
 void QListBox::triggerUpdate(bool doLayout)
 {
     if (doLayout) {
+        const QGuardedPtr<QListBox> alive(this);
         verticalScrollBar()->setLineStep(std::max(1, itemHeight()));
         resizeContents(totalWidth(), totalHeight());
+        if (!alive)
+            return;
     }
     viewport()->update();
 }
 
 void QListBox::resizeEvent(QResizeEvent* event)
 {
+    const QGuardedPtr<QListBox> alive(this);
     QScrollView::resizeEvent(event);
-    viewport()->update();
+    if (alive)
+        viewport()->update();
 }
 
 void QListBox::showEvent(QShowEvent*)
 {
+    const QGuardedPtr<QListBox> alive(this);
     triggerUpdate(true);
-    ensureCurrentVisible();
+    if (alive)
+        ensureCurrentVisible();
 }
 
 // In the viewport.

@@ -367,9 +367,10 @@ int QComboBox::sizeLimit() const
 // One more than that remains.
 void QComboBox::setMaxCount(int count)
 {
-    for (int last = this->count() - 1; last > count; --last)
-        removeItem(last);
+    const QGuardedPtr<QComboBox> alive(this);
     d->maxCount = count;
+    for (int last = this->count() - 1; alive && last > QMAX(count, -1); --last)
+        removeItem(last);
 }
 
 int QComboBox::maxCount() const

@@ -256,7 +256,7 @@ void QListBox::setCurrentItem(QListBoxItem* item)
         updateItem(before);
     updateItem(item);
     ensureCurrentVisible();
-    if (tellHighlighted(item))
+    if (alive && d->current == item && tellHighlighted(item))
         emit currentChanged(item);
 }
 

@@ -5,6 +5,7 @@
 
 #include <qapplication.h>
 #include <qevent.h>
+#include <qguardedptr.h>
 #include <qpainter.h>
 
 namespace zeltk
@@ -35,7 +36,10 @@ bool needsBar(QScrollView::ScrollBarMode mode, int contents, int room)
 
 void adjustBar(QScrollBar* bar, bool shown, int contents, int room, int page)
 {
+    const QGuardedPtr<QScrollBar> alive(bar);
     bar->setRange(0, QMAX(0, contents - room));
+    if (!alive)
+        return;
     bar->setSteps(bar->lineStep(), page);
     if (shown)
         bar->show();
@@ -198,8 +202,10 @@ void QScrollView::updateScrollBars()
         d->horizontal->setGeometry(0, h, w, extent);
     d->corner->setGeometry(width() - extent, height() - extent, extent, extent);
     d->corner->setShown(vertical && horizontal);
+    const QGuardedPtr<QScrollView> alive(this);
     adjustBar(d->vertical, vertical, d->height, inside.height(), inside.height());
-    adjustBar(d->horizontal, horizontal, d->width, inside.width(), inside.width());
+    if (alive)
+        adjustBar(d->horizontal, horizontal, d->width, inside.width(), inside.width());
 }
 
 void QScrollView::moveContents(int x, int y)
@@ -208,7 +214,10 @@ void QScrollView::moveContents(int x, int y)
     y = QMAX(0, QMIN(y, d->height - visibleHeight()));
     if (x == d->x && y == d->y)
         return;
+    const QGuardedPtr<QScrollView> alive(this);
     emit contentsMoving(x, y);
+    if (!alive)
+        return;
     const int dx = d->x - x;
     const int dy = d->y - y;
     d->x = x;
@@ -228,8 +237,10 @@ void QScrollView::vslide(int value)
 
 void QScrollView::setContentsPos(int x, int y)
 {
+    const QGuardedPtr<QScrollView> alive(this);
     d->horizontal->setValue(x);
-    d->vertical->setValue(y);
+    if (alive)
+        d->vertical->setValue(y);
 }
 
 void QScrollView::scrollBy(int dx, int dy)

@@ -1,0 +1,32 @@
+// Chance that repeats: the same seed gives the same numbers on every machine.
+#ifndef MONKEY_RANDOM_H
+#define MONKEY_RANDOM_H
+
+#include <cstdint>
+#include <string>
+
+class QString;
+
+// Every number that anyInt() and text() give is also written to the trace, so that a step can be read.
+class Random
+{
+public:
+    explicit Random(std::uint64_t seed = 0) : m_state(seed) {}
+
+    std::uint64_t next();
+    int below(int count) { return count > 0 ? static_cast<int>(next() % static_cast<unsigned>(count)) : 0; }
+    int between(int low, int high) { return low + below(high - low + 1); }
+    bool chance(int percent) { return below(100) < percent; }
+
+    // Mostly what programs say, often the limits of types and protocols, sometimes any of the 2^32.
+    int anyInt();
+    // Empty, plain, with blanks and accelerators, long, of many scripts, with lone surrogates, with zeroes.
+    QString text();
+
+    std::string trace;
+
+private:
+    std::uint64_t m_state;
+};
+
+#endif

@@ -1,0 +1,29 @@
+// Does harm in the middle of signals.
+#ifndef MONKEY_SABOTEUR_H
+#define MONKEY_SABOTEUR_H
+
+#include <qobject.h>
+
+struct World;
+
+class Saboteur : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Saboteur(World* world) : m_world(world), m_wait(-1) {}
+
+    // Hears all signals of the object from now on.
+    void watch(QObject* object);
+    // Does harm at the n-th signal from now; -1: at none.
+    void arm(int n) { m_wait = n; }
+
+public slots:
+    void harm();
+
+private:
+    World* m_world;
+    int m_wait;
+};
+
+#endif
