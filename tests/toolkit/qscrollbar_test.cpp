@@ -75,6 +75,45 @@ TEST_F(ScrollBar, AHeldArrowRepeats)
     xinput::releaseButton();
 }
 
+TEST_F(ScrollBar, AHeldArrowRestsWhileThePointerIsBesideIt)
+{
+    xinput::moveTo(&bar, 192, 8);
+    xinput::pressButton();
+    EXPECT_TRUE(waitFor([&] { return bar.value() >= 45; }));
+    xinput::moveTo(&bar, 192, -10);
+    settle();
+    const int value = bar.value();
+    EXPECT_FALSE(waitFor([&] { return bar.value() != value; }, 200));
+    xinput::moveTo(&bar, 192, 8);
+    EXPECT_TRUE(waitFor([&] { return bar.value() == 100; })) << "and goes on to the end";
+    xinput::releaseButton();
+}
+
+TEST_F(ScrollBar, HeldPagesStopAtThePointer)
+{
+    bar.setRange(0, 1000);
+    xinput::moveTo(&bar, 100, 8);
+    xinput::pressButton();
+    EXPECT_TRUE(waitFor([&] { return bar.sliderRect().right() >= 100; }));
+    EXPECT_TRUE(bar.sliderRect().contains(100, 8));
+    const int value = bar.value();
+    EXPECT_FALSE(waitFor([&] { return bar.value() != value; }, 200));
+    xinput::releaseButton();
+    settle();
+    EXPECT_EQ(bar.value(), value);
+}
+
+TEST_F(ScrollBar, HidingEndsWhatIsHeld)
+{
+    xinput::moveTo(&bar, 192, 8);
+    xinput::pressButton();
+    EXPECT_TRUE(waitFor([&] { return bar.value() >= 45; }));
+    bar.hide();
+    const int value = bar.value();
+    EXPECT_FALSE(waitFor([&] { return bar.value() != value; }, 200));
+    xinput::releaseButton();
+}
+
 TEST_F(ScrollBar, AClickBesideTheSliderTurnsAPage)
 {
     bar.setValue(50);
