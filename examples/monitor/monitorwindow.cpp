@@ -1,9 +1,12 @@
 #include "monitorwindow.h"
 #include "panel.h"
 
+#include <fontdlg.h>
 #include <qcheckbox.h>
 #include <qdatetime.h>
+#include <qfont.h>
 #include <qlayout.h>
+#include <qpushbutton.h>
 
 #include <chrono>
 
@@ -52,7 +55,12 @@ MonitorWindow::MonitorWindow(const std::string& folder) : QWidget(nullptr, "moni
     }
     QCheckBox* const bars = new QCheckBox("&Bars", this, "bars");
     connect(bars, SIGNAL(toggled(bool)), this, SLOT(setBars(bool)));
-    lines->addWidget(bars);
+    QPushButton* const font = new QPushButton("Caption &font...", this, "font");
+    connect(font, SIGNAL(clicked()), this, SLOT(chooseFont()));
+    QHBoxLayout* const choices = new QHBoxLayout(lines);
+    choices->addWidget(bars);
+    choices->addStretch();
+    choices->addWidget(font);
     connect(&m_timer, SIGNAL(timeout()), this, SLOT(sample()));
     resize(580, 380);
 }
@@ -85,4 +93,20 @@ void MonitorWindow::setBars(bool bars)
 {
     for (const Entry& entry : m_entries)
         entry.panel->setBars(bars);
+}
+
+// All captions have the same font.
+void MonitorWindow::chooseFont()
+{
+    const QFont before = m_entries.front().panel->captionFont();
+    ZelFontDlg dialog(this, "font dialog", true);
+    dialog.setFontParameters(before.family().latin1(), before.pointSize(), before.weight(), before.italic(),
+                             before.underline(), before.strikeOut());
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    QFont font(dialog.getFontFamily(), dialog.getFontSize(), dialog.getFontWeight(), dialog.beFontItalic());
+    font.setUnderline(dialog.beFontUnderline());
+    font.setStrikeOut(dialog.beFontStrikeOut());
+    for (const Entry& entry : m_entries)
+        entry.panel->setCaptionFont(font);
 }

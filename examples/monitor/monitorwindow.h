@@ -12,7 +12,8 @@
 
 class Panel;
 
-// The window of the monitor: a panel for each meter, and a switch between curves and bars.
+// The window of the monitor: a panel for each meter, a switch between curves and bars, and the choice of the
+// captions' font.
 class MonitorWindow : public QWidget
 {
     Q_OBJECT
@@ -35,6 +36,7 @@ public slots:
 private slots:
     void begin();
     void sample();
+    void chooseFont();
 
 private:
     struct Entry {

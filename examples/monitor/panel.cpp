@@ -1,5 +1,7 @@
 #include "panel.h"
+#include "graphcolors.h"
 
+#include <qfont.h>
 #include <qlabel.h>
 #include <qlayout.h>
 #include <zelgraph.h>
@@ -7,18 +9,23 @@
 #include <climits>
 
 Panel::Panel(QWidget* parent, const Looks& looks)
-    : QWidget(parent, looks.caption), m_looks(looks), m_value(new QLabel(this, "value")),
-      m_graph(new ZelGraph(this, "graph", true)), m_bars(false), m_counting(false), m_zero(0), m_second(0)
+    : QWidget(parent, looks.caption), m_looks(looks), m_caption(new QLabel(looks.caption, this, "caption")),
+      m_colors(new GraphColors(this, looks.curve, QColor(0, 70, 0), black)),
+      m_value(new QLabel(this, "value")), m_graph(new ZelGraph(this, "graph", true)), m_bars(false),
+      m_counting(false), m_zero(0), m_second(0)
 {
     // A longer value must not move anything.
     m_value->setSizePolicy(QSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum));
     m_value->setAlignment(AlignRight | AlignVCenter);
     m_graph->setMinimumSize(120, 50);
     setParameters();
+    connect(m_colors, SIGNAL(changed()), this, SLOT(setParameters()));
 
     QVBoxLayout* const column = new QVBoxLayout(this, 0, 3);
     QHBoxLayout* const line = new QHBoxLayout(column);
-    line->addWidget(new QLabel(looks.caption, this, "caption"));
+    line->setSpacing(6);
+    line->addWidget(m_caption);
+    line->addWidget(m_colors, 0, AlignVCenter);
     line->addWidget(m_value, 1);
     column->addWidget(m_graph, 1);
 }
@@ -26,14 +33,25 @@ Panel::Panel(QWidget* parent, const Looks& looks)
 void Panel::setParameters()
 {
     const int divisions = 4, secondsPerLine = 30;
-    m_graph->setGraphParameters(0, 100, divisions, secondsPerLine, m_bars, m_looks.rate, m_looks.rate, black,
-                                m_looks.curve, QColor(0, 70, 0));
+    m_graph->setGraphParameters(0, 100, divisions, secondsPerLine, m_bars, m_looks.rate, m_looks.rate,
+                                m_colors->color(GraphColors::Background), m_colors->color(GraphColors::Curve),
+                                m_colors->color(GraphColors::Grid));
 }
 
 void Panel::setBars(bool bars)
 {
     m_bars = bars;
     setParameters();
+}
+
+void Panel::setCaptionFont(const QFont& font)
+{
+    m_caption->setFont(font);
+}
+
+QFont Panel::captionFont() const
+{
+    return m_caption->font();
 }
 
 void Panel::take(const std::optional<Reading>& reading)

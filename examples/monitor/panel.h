@@ -1,4 +1,4 @@
-// One graph of the monitor with its caption and the value of the moment.
+// One graph of the monitor with its caption, its colours and the value of the moment.
 #ifndef PANEL_H
 #define PANEL_H
 
@@ -9,11 +9,15 @@
 
 #include <ctime>
 
+class GraphColors;
+class QFont;
 class QLabel;
 class ZelGraph;
 
 class Panel : public QWidget
 {
+    Q_OBJECT
+
 public:
     struct Looks {
         const char* caption;
@@ -28,12 +32,18 @@ public:
     void take(const std::optional<Reading>& reading);
     // The graph begins anew.
     void setBars(bool bars);
+    void setCaptionFont(const QFont& font);
+    QFont captionFont() const;
+
+private slots:
+    void setParameters();
 
 private:
-    void setParameters();
     void count(long long value);
 
     const Looks m_looks;
+    QLabel* const m_caption;
+    GraphColors* const m_colors;
     QLabel* const m_value;
     ZelGraph* const m_graph;
     bool m_bars;
