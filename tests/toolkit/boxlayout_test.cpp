@@ -161,6 +161,18 @@ TEST_F(Box, StretchCountsMoreThanExpanding)
     EXPECT_EQ(widths(100), (Widths{20, 20, 60}));
 }
 
+TEST_F(Box, WidgetMayBringItsStretch)
+{
+    make(right);
+    for (uchar stretch : {1, 3})
+        add(QSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred, stretch, 0), 10, 20);
+    EXPECT_EQ(widths(100), (Widths{25, 75}));
+    box->setStretchFactor(box->iterator().current()->widget(), 9);
+    EXPECT_EQ(widths(120), (Widths{90, 30})) << "what the box was told counts more";
+    box->setDirection(down);
+    EXPECT_EQ(at(50, 100), "0,0 50x80 | 0,80 50x20");
+}
+
 TEST_F(Box, WithStretchWantsToExpandItself)
 {
     make(right);

@@ -277,6 +277,7 @@ public:
 
     void addSpacing(int size);
     void addStretch(int stretch = 0);
+    //! Without a stretch factor, that of the widget's size policy counts.
     void addWidget(QWidget* widget, int stretch = 0, int alignment = 0);
     void addLayout(QLayout* layout, int stretch = 0);
     //! Makes the box at least that large across.

@@ -1,6 +1,8 @@
 // Box layouts: what the items of a row or column need together.
 #include "kernel/boxlayoutdata.h"
 
+#include <qwidget.h>
+
 using zeltk::BoxItem;
 using zeltk::Share;
 
@@ -10,6 +12,18 @@ namespace
 bool isHidden(QLayoutItem* item)
 {
     return item->isEmpty() && item->widget();
+}
+
+// A widget that was given none in the box may bring its own.
+int stretchOf(const BoxItem& box, bool horizontal)
+{
+    if (isHidden(box.item))
+        return 0;
+    QWidget* const widget = box.item->widget();
+    if (box.stretch > 0 || !widget)
+        return QMAX(0, box.stretch);
+    const QSizePolicy policy = widget->sizePolicy();
+    return static_cast<int>(horizontal ? policy.horStretch() : policy.verStretch());
 }
 
 // No sum of lengths overflows.
@@ -27,7 +41,7 @@ Share shareOf(const BoxItem& box, bool horizontal)
     share.hint = bounded(horizontal ? hint.width() : hint.height());
     share.minimum = bounded(horizontal ? least.width() : least.height());
     share.maximum = QMAX(share.minimum, bounded(horizontal ? most.width() : most.height()));
-    share.stretch = isHidden(box.item) ? 0 : QMAX(0, box.stretch);
+    share.stretch = stretchOf(box, horizontal);
     share.expanding =
         box.item->expanding() & (horizontal ? QSizePolicy::Horizontally : QSizePolicy::Vertically);
     share.empty = box.item->isEmpty();
