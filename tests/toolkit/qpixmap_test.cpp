@@ -10,6 +10,44 @@
 #include <qwidget.h>
 #include <qwmatrix.h>
 
+// Red at half strength over white, and nothing where it is transparent.
+TEST(PixmapMasks, BlendWhatIsHalfTransparent)
+{
+    QImage image(3, 1, 32);
+    image.setAlphaBuffer(true);
+    image.setPixel(0, 0, qRgba(255, 0, 0, 128));
+    image.setPixel(1, 0, qRgba(255, 0, 0, 0));
+    image.setPixel(2, 0, qRgba(0, 0, 255, 255));
+    QPixmap pixmap(image);
+    ASSERT_TRUE(pixmap.mask());
+    QPixmap ground(5, 3);
+    ground.fill(Qt::white);
+    QPainter(&ground).drawPixmap(1, 1, pixmap);
+    QImage drawn = ground.convertToImage();
+    EXPECT_EQ(qRgb(255, 127, 127), drawn.pixel(1, 1));
+    EXPECT_EQ(qRgb(255, 255, 255), drawn.pixel(2, 1));
+    EXPECT_EQ(qRgb(0, 0, 255), drawn.pixel(3, 1));
+    EXPECT_EQ(qRgb(255, 255, 255), drawn.pixel(1, 0));
+    EXPECT_EQ(image, pixmap.convertToImage()) << "the picture itself stays as it was";
+
+    ground.fill(Qt::white);
+    {
+        QPainter painter(&ground);
+        painter.setClipRect(2, 0, 2, 3);
+        painter.drawPixmap(1, 1, pixmap);
+    }
+    EXPECT_EQ(qRgb(255, 255, 255), ground.convertToImage().pixel(1, 1)) << "outside of the clip";
+    EXPECT_EQ(qRgb(0, 0, 255), ground.convertToImage().pixel(3, 1));
+
+    QPixmap copy(pixmap);
+    copy.detach();
+    EXPECT_EQ(image, copy.convertToImage());
+    bitBlt(&ground, 0, 0, &pixmap, 0, 0, -1, -1, Qt::CopyROP, true);
+    EXPECT_EQ(qRgb(255, 0, 0), ground.convertToImage().pixel(0, 0)) << "without its mask";
+    pixmap.setMask(QBitmap());
+    EXPECT_FALSE(pixmap.convertToImage().hasAlphaBuffer());
+}
+
 TEST(PixmapConversion, OfANullImageIsNull)
 {
     QPixmap pixmap(3, 3);
@@ -128,7 +166,7 @@ TEST(PixmapMasks, ComeFromTransparentImages)
     ASSERT_TRUE(pixmap.mask());
     EXPECT_EQ("#.\n", Pixels::of(*pixmap.mask()).picture({{'.', 0}, {'#', 1}}));
     EXPECT_TRUE(pixmap.convertToImage().hasAlphaBuffer());
-    EXPECT_EQ(0, qAlpha(pixmap.convertToImage().pixel(1, 0)));
+    EXPECT_EQ(10, qAlpha(pixmap.convertToImage().pixel(1, 0)));
 }
 
 TEST(PixmapTransform, ScalesAndTurns)

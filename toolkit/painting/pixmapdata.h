@@ -16,6 +16,7 @@ struct PixmapData {
     bool selfMask; // a bitmap that is its own mask
     int serial;
     WId id;
+    WId alpha; // 0, or how opaque each pixel is; there is a mask, too, then
     QBitmap* mask;
     QPixmap::Optimization optimization;
 };

@@ -2,7 +2,9 @@
 #include <qpaintdevice.h>
 
 #include "painting/paintdeviceprivate.h"
+#include "painting/pixmapdata.h"
 #include "painting/rasterops.h"
+#include "x11/blend.h"
 #include "x11/colors.h"
 #include "x11/connection.h"
 #include "x11/draw.h"
@@ -85,6 +87,11 @@ void blit(const x11::GcKey& base, Qt::HANDLE to, bool toBitmap, int dx, int dy, 
         } else {
             x11::copyBitmap(pixmap->handle(), to, x11::gcFor(key), sx, sy, w, h, dx, dy);
         }
+        return;
+    }
+    const Qt::HANDLE alpha = pixmap ? zeltk::PixmapAccess::data(pixmap)->alpha : 0;
+    if (alpha && !ignoreMask && !toBitmap && key.function == x11::FunctionCopy) {
+        x11::blendArea(pixmap->handle(), alpha, to, key.clip.get(), sx, sy, w, h, dx, dy);
         return;
     }
     if (pixmap && pixmap->mask() && !ignoreMask) {

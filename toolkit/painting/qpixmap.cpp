@@ -6,6 +6,7 @@
 
 #include "painting/imagetransform.h"
 #include "painting/pixmapdata.h"
+#include "x11/blend.h"
 #include "x11/colors.h"
 #include "x11/connection.h"
 #include "x11/draw.h"
@@ -35,7 +36,7 @@ QPixmap::Optimization defaultOptim = QPixmap::NormalOptim;
 
 PixmapData* newData(int w, int h, int depth)
 {
-    PixmapData* data = new PixmapData{1, 0, 0, 0, false, false, nextSerial(), 0, nullptr, defaultOptim};
+    PixmapData* data = new PixmapData{1, 0, 0, 0, false, false, nextSerial(), 0, 0, nullptr, defaultOptim};
     if (!x11::connected()) {
         qFatal("QPixmap: a QApplication is needed before any pixmap");
         return data;
@@ -62,7 +63,7 @@ PixmapData* newLike(const PixmapData* other, int w, int h)
 
 PixmapData* nullData(bool isBitmap = false)
 {
-    return new PixmapData{1, 0, 0, 0, isBitmap, false, nextSerial(), 0, nullptr, defaultOptim};
+    return new PixmapData{1, 0, 0, 0, isBitmap, false, nextSerial(), 0, 0, nullptr, defaultOptim};
 }
 
 void release(PixmapData* data)
@@ -70,6 +71,7 @@ void release(PixmapData* data)
     if (--data->references > 0)
         return;
     delete data->mask;
+    x11::freePixmap(data->alpha);
     x11::recyclePixmap(data->id, data->width, data->height, data->depth);
     delete data;
 }
@@ -174,6 +176,8 @@ void QPixmap::detach()
     copyPixels(d, own);
     own->selfMask = d->selfMask;
     own->mask = d->mask ? new QBitmap(*d->mask) : nullptr;
+    if (d->alpha)
+        own->alpha = x11::createAlpha(x11::readAlpha(d->alpha, d->width, d->height), d->width, d->height);
     setData(own);
 }
 
@@ -269,6 +273,8 @@ void QPixmap::setMask(const QBitmap& mask)
     QBitmap* copy = mask.isNull() ? nullptr : new QBitmap(mask);
     delete d->mask;
     d->mask = copy;
+    x11::freePixmap(d->alpha);
+    d->alpha = 0;
     d->selfMask = false;
 }
 
@@ -284,17 +290,19 @@ QImage QPixmap::convertToImage() const
     const std::vector<std::uint32_t> opaque =
         d->mask ? x11::readPixels(d->mask->handle(), true, 0, 0, d->width, d->height)
                 : std::vector<std::uint32_t>();
+    const std::vector<uchar> alpha =
+        d->alpha ? x11::readAlpha(d->alpha, d->width, d->height) : std::vector<uchar>();
     image.setAlphaBuffer(!opaque.empty());
     for (size_t i = 0; i < pixels.size(); ++i) {
         const uint color = d->depth == 1 ? (pixels[i] ? 0xff000000 : 0xffffffff) : pixels[i];
-        const bool visible = opaque.empty() || opaque[i];
+        const uint visible = !alpha.empty() ? alpha[i] : opaque.empty() || opaque[i] ? 0xff : 0;
         image.setPixel(static_cast<int>(i) % d->width, static_cast<int>(i) / d->width,
-                       visible ? color : color & RGB_MASK);
+                       visible << 24 | (color & RGB_MASK));
     }
     return image;
 }
 
-// Pixels less than half opaque become transparent.
+// Where the server cannot blend, pixels less than half opaque are transparent and the others opaque.
 bool QPixmap::convertFromImage(const QImage& image, ColorMode)
 {
     if (image.isNull()) {
@@ -310,19 +318,25 @@ bool QPixmap::convertFromImage(const QImage& image, ColorMode)
     }
     std::vector<std::uint32_t> pixels;
     std::vector<std::uint32_t> opaque;
+    std::vector<uchar> alpha;
     for (int y = 0; y < image.height(); ++y)
         for (int x = 0; x < image.width(); ++x) {
             const QRgb pixel = image.pixel(x, y);
             pixels.push_back(toBitmap ? qGray(pixel) < 128 : pixel);
             opaque.push_back(qAlpha(pixel) >= 128);
+            alpha.push_back(static_cast<uchar>(qAlpha(pixel)));
         }
     x11::writePixels(fresh->id, toBitmap, pixels.data(), image.width(), image.height());
     setData(fresh);
-    if (image.hasAlphaBuffer() && std::count(opaque.begin(), opaque.end(), 0U) > 0) {
+    if (image.hasAlphaBuffer() &&
+        std::count(alpha.begin(), alpha.end(), 0xff) < static_cast<long>(alpha.size())) {
         QBitmap visible(image.width(), image.height());
         x11::writePixels(visible.handle(), true, opaque.data(), image.width(), image.height());
         setMask(visible);
     }
+    const auto between = [](uchar value) { return value != 0 && value != 0xff; };
+    if (d->mask && !toBitmap && x11::canBlend() && std::any_of(alpha.begin(), alpha.end(), between))
+        d->alpha = x11::createAlpha(alpha, d->width, d->height);
     return true;
 }
 
