@@ -81,6 +81,7 @@ void Tour::nextStep()
         return;
     }
     m_acted = false;
+    settle();
     m_failed = !takePicture(step);
     ++m_next;
     if (m_failed || m_next == m_steps.size()) {
@@ -107,6 +108,17 @@ void Tour::act(const Step& step)
         break;
     }
     XSync(m_display, False);
+}
+
+// What the action has caused reaches the screen: windows that come, and what is painted in them then.
+void Tour::settle()
+{
+    m_timer.stop();
+    for (int round = 0; round < 8; ++round) {
+        QApplication::syncX();
+        qApp->processEvents();
+    }
+    m_timer.start(stepMilliseconds);
 }
 
 // A dialog that the step has opened is pictured in the place of the gallery, and closed.

@@ -42,6 +42,7 @@ private:
     };
 
     void act(const Step& step);
+    void settle();
     bool takePicture(const Step& step);
 
     GalleryWindow& m_gallery;
