@@ -68,13 +68,115 @@ TEST_F(ActiveLabel2, ThePointerTurnsTheTextWhite)
     EXPECT_EQ(Pixels::of(&label).differenceFrom(model(QColor(255, 255, 255))), "");
 }
 
+// A pixel that the label does not paint itself stays until something is erased.
 TEST_F(ActiveLabel2, EnteringAndLeavingPaintOnceWithoutErasing)
 {
+    {
+        QPainter painter(&label);
+        painter.fillRect(5, 5, 1, 1, QBrush(Qt::red));
+    }
     EventCount paints(&label, QEvent::Paint);
     enter(&label);
     EXPECT_EQ(paints.take(), 1);
+    EXPECT_EQ(Pixels::now(&label).at(5, 5), 0xff0000U);
+    EXPECT_GT(Pixels::now(&label).count(0xffffff), 5);
     leave(&label);
     EXPECT_EQ(paints.take(), 1);
+    EXPECT_EQ(Pixels::now(&label).at(5, 5), 0xff0000U);
+    EXPECT_GT(Pixels::now(&label).count(0x0000dc), 5);
+    settle();
+    EXPECT_EQ(paints.take(), 0);
+}
+
+TEST_F(ActiveLabel2, ANewTextErasesTheOldOne)
+{
+    EventCount paints(&label, QEvent::Paint);
+    label.setText("WWWWWWW");
+    EXPECT_EQ(paints.take(), 1);
+    EXPECT_NE(Pixels::now(&label), model(QColor(0, 0, 220)));
+    label.setText("Middle");
+    EXPECT_EQ(paints.take(), 1);
+    EXPECT_EQ(Pixels::now(&label).differenceFrom(model(QColor(0, 0, 220))), "");
+    label.setText(0);
+    EXPECT_EQ(Pixels::now(&label).count(0x0000dc), 0);
+}
+
+TEST_F(ActiveLabel2, WithoutATextItIsAnOutline)
+{
+    ZelActiveLabel2 plain(&window, "plain");
+    plain.setGeometry(120, 30, 5, 4);
+    plain.show();
+    settle();
+    const QColorGroup& g = plain.colorGroup();
+    const Pixels::Legend legend = {
+        {'.', 0xfaf064}, {'#', g.dark().rgb() & 0xffffff}, {'+', g.light().rgb() & 0xffffff}};
+    EXPECT_EQ(Pixels::of(&plain).picture(legend), "####+\n"
+                                                  "#++#+\n"
+                                                  "####+\n"
+                                                  "+++++\n");
+    EXPECT_STREQ(plain.name(), "plain");
+}
+
+TEST_F(ActiveLabel2, TheTextKeepsTwoPixelsFree)
+{
+    label.setText("WWWWWWWWWWWWWWWWWWWWWWWWWWW\nWWWWWWWWWWWWWWW\nWWWWWWWWWWWWWWWW\nWWWWWWWWWWWWWWW");
+    Pixels pixels = Pixels::of(&label);
+    EXPECT_GT(pixels.count(0x0000dc), 50);
+    pixels.fill(2, 2, 86, 36, 0xfaf064);
+    label.setText("");
+    EXPECT_EQ(pixels.differenceFrom(Pixels::of(&label)), "");
+}
+
+TEST_F(ActiveLabel2, TinyOnesDrawNoTextAndDoNotFail)
+{
+    for (int size = 1; size <= 4; ++size) {
+        label.resize(size, size);
+        settle();
+        EXPECT_EQ(Pixels::of(&label).count(0x0000dc), 0) << size;
+        enter(&label);
+        press(&label, 0, 0);
+        release(&label, 0, 0);
+        leave(&label);
+        EXPECT_EQ(recorder.take(), "pressed clicked") << size;
+    }
+}
+
+TEST_F(ActiveLabel2, AnyButtonsReleaseEndsThePress)
+{
+    press(&label);
+    release(&label, 5, 5, Qt::RightButton);
+    EXPECT_EQ(recorder.take(), "pressed clicked");
+    release(&label);
+    EXPECT_EQ(recorder.take(), "") << "it is no longer pressed";
+    press(&label);
+    release(&label, 100, 5);
+    release(&label);
+    EXPECT_EQ(recorder.take(), "pressed");
+}
+
+TEST_F(ActiveLabel2, LeavingAndComingBackWhileHeldKeepsThePress)
+{
+    xinput::moveTo(&label, 45, 20);
+    xinput::pressButton();
+    xinput::moveTo(&window, 190, 110);
+    settle();
+    EXPECT_EQ(Pixels::of(&label).count(0xffffff), model(QColor(0, 0, 220)).count(0xffffff));
+    xinput::moveTo(&label, 45, 20);
+    settle();
+    EXPECT_EQ(recorder.take(), "pressed");
+    xinput::releaseButton();
+    EXPECT_TRUE(waitFor([this] { return recorder.count() > 0; }));
+    EXPECT_EQ(recorder.take(), "clicked");
+}
+
+TEST_F(ActiveLabel2, KeepsItsMouseEventsFromTheParent)
+{
+    EventCount presses(&window, QEvent::MouseButtonPress), releases(&window, QEvent::MouseButtonRelease);
+    for (const int button : {Qt::LeftButton, Qt::RightButton}) {
+        EXPECT_TRUE(press(&label, 5, 5, button));
+        EXPECT_TRUE(release(&label, 5, 5, button));
+    }
+    EXPECT_EQ(presses.take() + releases.take(), 0);
 }
 
 TEST_F(ActiveLabel2, APressIsToldAtOnceAndAClickAtTheRelease)

@@ -32,6 +32,22 @@ protected:
         return pixels;
     }
 
+    // Two rings around the colour; the corners at the upper right and the lower left belong to the lower
+    // right.
+    Pixels panel(unsigned colour) const
+    {
+        const unsigned dark = button.colorGroup().dark().rgb() & 0xffffff;
+        const unsigned light = button.colorGroup().light().rgb() & 0xffffff;
+        Pixels pixels(30, 20, colour);
+        for (int ring = 0; ring < 2; ++ring) {
+            pixels.fill(ring, ring, 30 - 2 * ring, 1, dark);
+            pixels.fill(ring, ring, 1, 20 - 2 * ring, dark);
+            pixels.fill(ring, 19 - ring, 30 - 2 * ring, 1, light);
+            pixels.fill(29 - ring, ring, 1, 20 - 2 * ring, light);
+        }
+        return pixels;
+    }
+
     QWidget window;
     ZelColorButton button;
     SignalRecorder recorder;
@@ -41,13 +57,75 @@ protected:
 
 TEST_F(ColorButton, AtRestItIsASunkenPanelOfItsColour)
 {
-    const Pixels pixels = Pixels::of(&button);
-    EXPECT_EQ(pixels.part(2, 2, 26, 16).count(0xc80000), 26 * 16);
-    EXPECT_EQ(pixels.at(0, 0), 0x808080U);
-    EXPECT_EQ(pixels.at(28, 0), 0x808080U);
-    EXPECT_EQ(pixels.at(29, 0), pixels.at(29, 19));
-    EXPECT_EQ(pixels.at(1, 18), pixels.at(29, 19));
-    EXPECT_NE(pixels.at(29, 19), 0x808080U);
+    EXPECT_EQ(Pixels::of(&button).differenceFrom(panel(0xc80000)), "");
+    EXPECT_EQ(panel(0).at(0, 0), 0x808080U);
+    button.setColor(QColor(0, 120, 40));
+    EXPECT_EQ(Pixels::now(&button).differenceFrom(panel(0x007828)), "");
+}
+
+TEST_F(ColorButton, ThePointerAndNewColoursPaintOnceAndAtOnce)
+{
+    EventCount paints(&button, QEvent::Paint);
+    enter(&button);
+    EXPECT_EQ(paints.take(), 1);
+    EXPECT_EQ(Pixels::now(&button).differenceFrom(swatch(0xc80000)), "");
+    leave(&button);
+    EXPECT_EQ(paints.take(), 1);
+    EXPECT_EQ(Pixels::now(&button).differenceFrom(panel(0xc80000)), "");
+    button.setColor(Qt::blue);
+    EXPECT_EQ(paints.take(), 1);
+    settle();
+    EXPECT_EQ(paints.take(), 0);
+}
+
+TEST_F(ColorButton, OnlyTheHoverBitShows)
+{
+    press(&button);
+    EXPECT_EQ(Pixels::of(&button).differenceFrom(panel(0xc80000)), "");
+    enter(&button);
+    EXPECT_EQ(Pixels::of(&button).differenceFrom(swatch(0xc80000)), "");
+    leave(&button);
+    EXPECT_EQ(Pixels::of(&button).differenceFrom(panel(0xc80000)), "");
+    release(&button);
+    EXPECT_EQ(recorder.take(), "clicked") << "leaving does not end the press";
+}
+
+TEST_F(ColorButton, OnlyReleasesInsideTheEdgesClick)
+{
+    const struct {
+        int x, y;
+        const char* signalled;
+    } places[] = {{0, 0, "clicked"}, {29, 19, "clicked"}, {30, 19, ""}, {29, 20, ""},
+                  {-1, 0, ""},       {0, -1, ""},         {5, 1000, ""}};
+    for (const auto& place : places) {
+        press(&button);
+        release(&button, place.x, place.y);
+        EXPECT_EQ(recorder.take(), place.signalled) << place.x << "," << place.y;
+        release(&button);
+        EXPECT_EQ(recorder.take(), "") << "one press, one release";
+    }
+}
+
+TEST_F(ColorButton, AnyButtonsReleaseEndsThePress)
+{
+    press(&button);
+    release(&button, 5, 5, Qt::RightButton);
+    EXPECT_EQ(recorder.take(), "clicked");
+    release(&button);
+    press(&button, 5, 5, Qt::MidButton);
+    release(&button);
+    EXPECT_EQ(recorder.take(), "");
+}
+
+TEST_F(ColorButton, KeepsItsMouseEventsFromTheParent)
+{
+    EventCount presses(&window, QEvent::MouseButtonPress), releases(&window, QEvent::MouseButtonRelease);
+    for (const int mouseButton : {Qt::LeftButton, Qt::RightButton}) {
+        EXPECT_TRUE(press(&button, 5, 5, mouseButton));
+        EXPECT_TRUE(release(&button, 5, 5, mouseButton));
+    }
+    EXPECT_EQ(presses.take() + releases.take(), 0);
+    EXPECT_STREQ(button.name(), "button");
 }
 
 TEST_F(ColorButton, UnderThePointerItIsASwatchOnWhite)

@@ -1,6 +1,7 @@
 // ZelLabel: its signals, its toggle, and the hover look of active labels.
 #include <zellabel.h>
 
+#include "inputlog.h"
 #include "pixels.h"
 #include "sentevents.h"
 #include "signalrecorder.h"
@@ -8,6 +9,8 @@
 #include "xinput.h"
 
 #include <gtest/gtest.h>
+#include <qpainter.h>
+#include <qpixmap.h>
 
 namespace
 {
@@ -29,6 +32,21 @@ protected:
         showAndWait(&window);
     }
 
+    // The text in the middle of a label without a frame.
+    Pixels centred(int weight, const QColor& colour)
+    {
+        QPixmap pixmap(label->width(), label->height());
+        pixmap.fill(label->paletteBackgroundColor());
+        QPainter painter(&pixmap);
+        QFont font = label->font();
+        font.setWeight(weight);
+        painter.setFont(font);
+        painter.setPen(colour);
+        painter.drawText(label->rect(), Qt::AlignCenter, "Toggle");
+        painter.end();
+        return Pixels::of(pixmap);
+    }
+
     QWidget window;
     ZelLabel* label;
     SignalRecorder recorder;
@@ -47,6 +65,50 @@ TEST_F(Label, EveryMouseEventIsToldAndGoesOnToTheParent)
     EXPECT_EQ(recorder.take(), "mousePress mouseMove mouseRelease clicked");
     doubleClick(label);
     EXPECT_EQ(recorder.take(), "mouseDoubleClick mousePress");
+}
+
+TEST_F(Label, EveryKindOfMouseEventReachesTheParentInItsCoordinates)
+{
+    EventLog log;
+    InputWidget parent(&log, 0, "parent", 200, 150, 200, 120);
+    ZelLabel child("Toggle", &parent, "child", true, 0);
+    child.setGeometry(20, 30, 100, 40);
+    showAndWait(&parent);
+    log.take();
+    for (const int button : {Qt::LeftButton, Qt::MidButton, Qt::RightButton}) {
+        const std::string number = std::to_string(button);
+        press(&child, 1, 2, button);
+        EXPECT_EQ(log.take(), "parent press 21,32 button " + number + " state 0");
+        release(&child, 1, 2, button);
+        EXPECT_EQ(log.take(), "parent release 21,32 button " + number + " state " + number);
+    }
+    drag(&child, 3, 4);
+    EXPECT_EQ(log.take(), "parent move 23,34 button 0 state 1");
+    doubleClick(&child, 1, 2);
+    EXPECT_EQ(log.take(), "parent double 21,32 button 1 state 0; parent press 21,32 button 1 state 0");
+}
+
+TEST_F(Label, ARealDoubleClickTogglesTwice)
+{
+    show(true);
+    xinput::doubleClick(label, 20, 10);
+    EXPECT_TRUE(waitFor([this] { return recorder.count() >= 7; }));
+    EXPECT_EQ(recorder.take(), "mousePress mouseRelease clicked "
+                               "mouseDoubleClick mousePress mouseRelease clicked");
+    EXPECT_FALSE(label->isOn());
+}
+
+TEST_F(Label, ItTogglesBeforeItTells)
+{
+    show(false);
+    bool on = false;
+    recorder.whenever = [&] { on = label->isOn(); };
+    release(label);
+    EXPECT_TRUE(on);
+    label->setOn(false);
+    EXPECT_FALSE(on);
+    label->setOn(false);
+    EXPECT_EQ(recorder.take(), "mouseRelease clicked clicked clicked");
 }
 
 TEST_F(Label, ALeftReleaseInsideTogglesWithoutAPress)
@@ -80,14 +142,80 @@ TEST_F(Label, SetOnTellsEveryTime)
 TEST_F(Label, AnActiveLabelTurnsBoldAndColouredUnderThePointer)
 {
     show(true);
-    EXPECT_GT(Pixels::of(label).count(0x000000), 5);
+    EXPECT_EQ(Pixels::of(label).differenceFrom(centred(QFont::Normal, Qt::black)), "");
     xinput::moveTo(label, 50, 20);
     EXPECT_TRUE(waitFor([this] { return label->font().bold(); }));
+    EXPECT_EQ(label->font().weight(), 75);
+    EXPECT_EQ(Pixels::of(label).differenceFrom(centred(QFont::Bold, QColor(0, 0, 240))), "");
     EXPECT_GT(Pixels::of(label).count(0x0000f0), 5);
-    EXPECT_EQ(Pixels::of(label).count(0x000000), 0);
     xinput::park();
     EXPECT_TRUE(waitFor([this] { return !label->font().bold(); }));
     EXPECT_EQ(label->font().weight(), 50);
+    EXPECT_EQ(Pixels::of(label).differenceFrom(centred(QFont::Normal, Qt::black)), "");
+}
+
+TEST_F(Label, TheNewLookIsPaintedAtOnce)
+{
+    show(true);
+    EventCount paints(label, QEvent::Paint);
+    enter(label);
+    EXPECT_EQ(Pixels::now(label).differenceFrom(centred(QFont::Bold, QColor(0, 0, 240))), "");
+    EXPECT_GE(paints.take(), 1);
+    leave(label);
+    EXPECT_EQ(Pixels::now(label).differenceFrom(centred(QFont::Normal, Qt::black)), "");
+    EXPECT_GE(paints.take(), 1);
+}
+
+TEST_F(Label, OnlyTheWeightOfTheFontChanges)
+{
+    show(true);
+    QFont font("DejaVu Sans", 17, QFont::DemiBold, true);
+    font.setUnderline(true);
+    label->setFont(font);
+    enter(label);
+    font.setWeight(QFont::Bold);
+    EXPECT_EQ(label->font(), font);
+    leave(label);
+    font.setWeight(QFont::Normal);
+    EXPECT_EQ(label->font(), font);
+}
+
+TEST_F(Label, AnActiveLabelDrawsItsTextInTheMiddleWhateverIsSet)
+{
+    show(true);
+    label->setAlignment(Qt::AlignRight | Qt::AlignBottom);
+    label->setText("<b>Toggle</b>");
+    label->setFrameStyle(QFrame::Panel | QFrame::Raised);
+    label->setLineWidth(3);
+    label->resize(160, 40);
+    settle();
+    const QRect inside = label->contentsRect();
+    EXPECT_EQ(inside, QRect(3, 3, 154, 34));
+    QPixmap pixmap(inside.width(), inside.height());
+    pixmap.fill(label->paletteBackgroundColor());
+    {
+        QPainter painter(&pixmap);
+        painter.setFont(label->font());
+        painter.setPen(Qt::black);
+        painter.drawText(QRect(0, 0, 154, 34), Qt::AlignCenter, "<b>Toggle</b>");
+    }
+    EXPECT_EQ(Pixels::of(label).part(3, 3, 154, 34).differenceFrom(Pixels::of(pixmap)), "");
+}
+
+TEST_F(Label, APassiveLabelLooksAsAQLabel)
+{
+    show(false);
+    QLabel plain("Toggle", &window, "plain");
+    plain.setGeometry(20, 75, 100, 40);
+    plain.show();
+    settle();
+    for (QLabel* each : {static_cast<QLabel*>(label), &plain}) {
+        each->setAlignment(Qt::AlignRight | Qt::AlignBottom);
+        each->setFrameStyle(QFrame::Box | QFrame::Sunken);
+        each->setLineWidth(2);
+    }
+    settle();
+    EXPECT_EQ(Pixels::of(label).differenceFrom(Pixels::of(&plain)), "");
     EXPECT_GT(Pixels::of(label).count(0x000000), 5);
 }
 
@@ -121,8 +249,23 @@ TEST_F(Label, NewColoursShowAtTheNextRepaint)
     QColor green(0, 255, 0);
     label->setTextColors(red, green);
     EXPECT_EQ(Pixels::of(label).differenceFrom(before), "");
+    red = Qt::yellow; // copies were taken
     label->repaint(true);
     EXPECT_GT(Pixels::of(label).count(0xff0000), 5);
     leave(label);
     EXPECT_GT(Pixels::of(label).count(0x00ff00), 5);
+}
+
+TEST_F(Label, TheConstructorsTakeNameFlagsAndText)
+{
+    ZelLabel first(QString("one"), &window, "first", false, Qt::WType_TopLevel);
+    EXPECT_EQ(first.text(), QString("one"));
+    EXPECT_STREQ(first.name(), "first");
+    EXPECT_TRUE(first.isTopLevel());
+    ZelLabel second("two", &window, "second", false, Qt::WType_TopLevel);
+    EXPECT_EQ(second.text(), QString("two"));
+    EXPECT_STREQ(second.name(), "second");
+    EXPECT_TRUE(second.isTopLevel());
+    EXPECT_FALSE(first.isOn());
+    EXPECT_FALSE(second.isOn());
 }

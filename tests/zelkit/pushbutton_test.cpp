@@ -8,7 +8,10 @@
 #include "waiting.h"
 #include "xinput.h"
 
+#include <X11/keysym.h>
+
 #include <gtest/gtest.h>
+#include <qdialog.h>
 
 namespace
 {
@@ -46,6 +49,41 @@ TEST(PushButton, ShowsItsColourAlsoWhilePressed)
     EXPECT_EQ(recorder.take(), "pressed clicked");
 }
 
+TEST(PushButton, SpaceClicksItToo)
+{
+    QWidget window(0, "window");
+    window.setGeometry(200, 150, 120, 80);
+    ZelPushButton button(QColor(10, 200, 90), &window, "button");
+    button.setGeometry(10, 10, 60, 40);
+    SignalRecorder recorder;
+    recorder.watch(&button, SIGNAL(pressed()));
+    recorder.watch(&button, SIGNAL(released()));
+    recorder.watch(&button, SIGNAL(clicked()));
+    showAndActivate(&window);
+    button.setFocus();
+    xinput::pressKey(XK_space);
+    EXPECT_TRUE(waitFor([&] { return button.isDown(); }));
+    EXPECT_EQ(Pixels::of(&button).part(5, 5, 50, 30).differenceFrom(swatch(50, 30, 0x0ac85a)), "");
+    xinput::releaseKey(XK_space);
+    EXPECT_TRUE(waitFor([&] { return recorder.count() == 3; }));
+    EXPECT_EQ(recorder.take(), "pressed released clicked");
+}
+
+TEST(PushButton, TheSwatchFollowsTheSizeAndTheColourIsCopied)
+{
+    QWidget window(0, "window");
+    window.setGeometry(200, 150, 120, 80);
+    QColor colour(10, 200, 90);
+    ZelPushButton button(colour, &window, "button");
+    colour = Qt::red;
+    button.setGeometry(10, 10, 33, 27);
+    showAndWait(&window);
+    EXPECT_EQ(Pixels::of(&button).part(5, 5, 23, 17).differenceFrom(swatch(23, 17, 0x0ac85a)), "");
+    EXPECT_NE(Pixels::of(&button).at(4, 10), 0x000000U);
+    EXPECT_STREQ(button.name(), "button");
+    EXPECT_TRUE(button.text().isEmpty());
+}
+
 TEST(PushButton, TinyOnesDoNotFail)
 {
     QWidget window(0, "window");
@@ -73,4 +111,60 @@ TEST(PushButton2, EscapeIsToldAndGoesOn)
     EXPECT_EQ(recorder.take(), "");
     EXPECT_EQ(button.text(), QString("Stop"));
     EXPECT_TRUE(ZelPushButton2(&window, "other").text().isEmpty());
+}
+
+TEST(PushButton2, EscapeIsToldBeforeItIsHandled)
+{
+    QWidget window(0, "window");
+    ZelPushButton2 button("Stop", &window, "button");
+    button.setDown(true);
+    SignalRecorder recorder;
+    recorder.watch(&button, SIGNAL(escapePressed()));
+    EventCount keys(&window, QEvent::KeyPress);
+    bool wasDown = false;
+    int heard = -1;
+    recorder.whenever = [&] {
+        wasDown = button.isDown();
+        heard = keys.take();
+    };
+    EXPECT_TRUE(sendKey(&button, Qt::Key_Escape, 27)) << "a button that is down goes up and keeps the key";
+    EXPECT_TRUE(wasDown);
+    EXPECT_FALSE(button.isDown());
+    EXPECT_FALSE(sendKey(&button, Qt::Key_Escape, 27));
+    EXPECT_EQ(heard, 0);
+    EXPECT_EQ(keys.take(), 1);
+    EXPECT_EQ(recorder.take(), "escapePressed escapePressed");
+}
+
+TEST(PushButton2, InADialogEscapeIsToldAndClosesIt)
+{
+    QDialog dialog(0, "dialog");
+    dialog.setGeometry(200, 150, 120, 80);
+    ZelPushButton2 button("Stop", &dialog, "button");
+    SignalRecorder recorder;
+    recorder.watch(&button, SIGNAL(escapePressed()));
+    showAndActivate(&dialog);
+    button.setFocus();
+    recorder.whenever = [&] { EXPECT_TRUE(dialog.isVisible()); };
+    xinput::typeKey(XK_Escape);
+    EXPECT_TRUE(waitFor([&] { return !dialog.isVisible(); }));
+    EXPECT_EQ(recorder.take(), "escapePressed");
+}
+
+TEST(PushButton2, OtherKeysAreAButtons)
+{
+    QWidget window(0, "window");
+    window.setGeometry(200, 150, 120, 80);
+    ZelPushButton2 button("Stop", &window, "button");
+    SignalRecorder recorder;
+    recorder.watch(&button, SIGNAL(escapePressed()));
+    recorder.watch(&button, SIGNAL(clicked()));
+    showAndActivate(&window);
+    button.setFocus();
+    xinput::typeKey(XK_space);
+    EXPECT_TRUE(waitFor([&] { return recorder.count() > 0; }));
+    EXPECT_EQ(recorder.take(), "clicked");
+    EXPECT_TRUE(sendKey(&button, Qt::Key_Space, ' ', 0, " "));
+    EXPECT_FALSE(sendKey(&button, Qt::Key_F1));
+    EXPECT_EQ(recorder.take(), "");
 }
