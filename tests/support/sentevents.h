@@ -6,6 +6,8 @@
 #include <qevent.h>
 #include <qwidget.h>
 
+#include <string>
+
 // True if the event was accepted.
 inline bool sendMouse(QWidget* widget, QEvent::Type type, int x, int y, int button = Qt::LeftButton)
 {
@@ -62,6 +64,32 @@ inline void leave(QWidget* widget)
 {
     sendPlain(widget, QEvent::Leave);
 }
+
+// Writes down the paint events that reach a widget, as "erased" or "kept" for what was there before.
+class PaintLog : public QObject
+{
+public:
+    explicit PaintLog(QObject* watched) { watched->installEventFilter(this); }
+    // All since the last call, separated by blanks.
+    std::string take()
+    {
+        const std::string all = m_log;
+        m_log = "";
+        return all;
+    }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event)
+    {
+        if (event->type() == QEvent::Paint)
+            m_log += std::string(m_log.empty() ? "" : " ") +
+                     (static_cast<QPaintEvent*>(event)->erased() ? "erased" : "kept");
+        return false;
+    }
+
+private:
+    std::string m_log;
+};
 
 // Counts the events of one type that reach a widget.
 class EventCount : public QObject

@@ -162,6 +162,23 @@ TEST_F(GraphEvents, AReceiverMayFeedAndChangeTheGraph)
     EXPECT_EQ(Pixels::now(&graph).differenceFrom(at), "") << "nothing of a read-out is left";
 }
 
+TEST_F(GraphEvents, EveryChangeIsPaintedWholeOnceAndAtOnce)
+{
+    PaintLog paints(&graph);
+    graph.setValue(3);
+    EXPECT_EQ(paints.take(), "erased");
+    graph.setMinY(-3);
+    EXPECT_EQ(paints.take(), "erased");
+    graph.setMaxY(30);
+    EXPECT_EQ(paints.take(), "erased");
+    graph.clearAll();
+    EXPECT_EQ(paints.take(), "erased");
+    graph.setGraphParameters(0, 5, 10, 10, false, false, false, Qt::black, Qt::blue, Qt::green);
+    EXPECT_EQ(paints.take(), "erased");
+    settle();
+    EXPECT_EQ(paints.take(), "");
+}
+
 TEST_F(GraphEvents, SamplesComeThroughTheSlot)
 {
     QScrollBar bar(0, 5, 1, 1, 0, Qt::Horizontal, &window, "bar");

@@ -234,7 +234,9 @@ TEST_F(Label, TheTwoConstructorsHaveTwoBlues)
     ZelLabel other("Toggle", &window, "other", true, 0);
     other.setGeometry(20, 75, 100, 40);
     show(true);
+    EXPECT_EQ(Pixels::of(&other).differenceFrom(centred(QFont::Normal, QColor(0, 0, 0))), "");
     enter(&other);
+    EXPECT_EQ(Pixels::of(&other).differenceFrom(centred(QFont::Bold, QColor(0, 0, 200))), "");
     EXPECT_GT(Pixels::of(&other).count(0x0000c8), 5);
     enter(label);
     EXPECT_GT(Pixels::of(label).count(0x0000f0), 5);

@@ -77,6 +77,7 @@ TEST(PushButton, TheSwatchFollowsTheSizeAndTheColourIsCopied)
     ZelPushButton button(colour, &window, "button");
     colour = Qt::red;
     button.setGeometry(10, 10, 33, 27);
+    button.setPaletteForegroundColor(Qt::yellow); // the outline stays black
     showAndWait(&window);
     EXPECT_EQ(Pixels::of(&button).part(5, 5, 23, 17).differenceFrom(swatch(23, 17, 0x0ac85a)), "");
     EXPECT_NE(Pixels::of(&button).at(4, 10), 0x000000U);
