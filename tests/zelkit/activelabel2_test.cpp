@@ -32,13 +32,14 @@ protected:
 
     Pixels model(const QColor& text)
     {
-        QPixmap pixmap(90, 40);
+        const int width = label.width(), height = label.height();
+        QPixmap pixmap(width, height);
         pixmap.fill(QColor(250, 240, 100));
         QPainter painter(&pixmap);
         painter.setFont(label.font());
-        qDrawShadeRect(&painter, 0, 0, 90, 40, label.colorGroup(), true, 1, 0);
+        qDrawShadeRect(&painter, 0, 0, width, height, label.colorGroup(), true, 1, 0);
         painter.setPen(text);
-        painter.drawText(QRect(2, 2, 86, 36), Qt::AlignCenter, "Middle");
+        painter.drawText(2, 2, width - 4, height - 4, Qt::AlignCenter, "Middle");
         painter.end();
         return Pixels::of(pixmap);
     }
@@ -53,6 +54,15 @@ protected:
 TEST_F(ActiveLabel2, AtRestTheTextIsBlueInASunkenOutline)
 {
     EXPECT_EQ(Pixels::of(&label).differenceFrom(model(QColor(0, 0, 220))), "");
+}
+
+TEST_F(ActiveLabel2, TheTextIsInTheMiddleOfEverySize)
+{
+    for (int more = 0; more < 4; ++more) {
+        label.resize(90 + more, 40 + more / 2);
+        settle();
+        EXPECT_EQ(Pixels::of(&label).differenceFrom(model(QColor(0, 0, 220))), "") << more;
+    }
 }
 
 TEST_F(ActiveLabel2, ThePointerTurnsTheTextWhite)
