@@ -7,6 +7,8 @@
 #include <gtest/gtest.h>
 #include <qapplication.h>
 
+#include <X11/keysym.h>
+
 #include <memory>
 
 namespace
@@ -174,6 +176,23 @@ TEST_F(Focus, AWindowThatIsNotActiveRemembersWhoWillHaveIt)
     EXPECT_EQ(&child, other.focusWidget());
     showAndActivate(&other);
     EXPECT_EQ(&child, qApp->focusWidget());
+}
+
+TEST_F(Focus, AProxyThatDiesTakesItsOwnOutOfTheTabOrder)
+{
+    QWidget* proxy = new QWidget(&b);
+    QWidget* within = new QWidget(proxy);
+    within->setFocusPolicy(QWidget::TabFocus);
+    b.setFocusProxy(proxy);
+    within->show();
+    proxy->show();
+    delete proxy;
+    a.setFocus();
+    for (int i = 0; i < 3; ++i) {
+        xinput::typeKey(XK_Tab);
+        settle();
+        EXPECT_TRUE(qApp->focusWidget() == &a || qApp->focusWidget() == &b || qApp->focusWidget() == &inner);
+    }
 }
 
 TEST_F(Focus, NobodyIsAProxyOfItself)

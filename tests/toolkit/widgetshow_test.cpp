@@ -1,5 +1,6 @@
 // Showing, hiding, closing and enabling widgets.
 #include "eventlog.h"
+#include "messages.h"
 #include "printers.h"
 #include "signalrecorder.h"
 #include "waiting.h"
@@ -191,4 +192,17 @@ TEST(WidgetShow, DisablingReachesAllInside)
     QWidget later(&window);
     EXPECT_FALSE(late.isEnabled());
     EXPECT_FALSE(later.isEnabled());
+}
+
+TEST(WidgetShow, WhoIsHiddenWhileItsWindowEndsDoesNoHarm)
+{
+    QWidget* window = new QWidget(nullptr, "window");
+    QWidget* first = new QWidget(window, "first");
+    QWidget* second = new QWidget(window, "second");
+    QObject::connect(first, SIGNAL(destroyed()), second, SLOT(hide()));
+    showAndWait(window);
+    takeMessages();
+    delete window;
+    settle();
+    EXPECT_EQ("", takeMessages());
 }

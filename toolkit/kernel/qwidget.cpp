@@ -82,6 +82,7 @@ void forgetWindows(QWidget* widget)
     if (!widget->isDesktop())
         x11::forgetDrawable(widget->winId());
     zeltk::WidgetAccess::setWinId(widget, 0);
+    zeltk::dataOf(widget)->mapped = false;
     for (QWidget* child : zeltk::childWidgets(widget))
         if (!child->isTopLevel())
             forgetWindows(child);
@@ -175,11 +176,11 @@ QWidget::~QWidget()
         clearFocus();
     if (isVisible() && !isDesktop())
         hide();
-    zeltk::widgetDestroyed(this);
     if (w->isFocusProxy)
         for (QWidget* other : widgets())
             if (zeltk::dataOf(other)->focusProxy == this)
                 zeltk::WidgetAccess::focusProxyDestroyed(other);
+    zeltk::widgetDestroyed(this);
     widgets().erase(std::find(widgets().begin(), widgets().end(), this));
     zeltk::unmakeWindow(this);
     w->layout = nullptr;         // it goes with the children
