@@ -154,7 +154,7 @@ void ZelColorGroupDlg::chooseColor(const QMouseEvent* event, ZelFrame* swatch, Z
     if (event->button() != LeftButton)
         return;
     const QGuardedPtr<ZelColorDlg> chooser = new ZelColorDlg(swatch->paletteBackgroundColor(), this, "dlg");
-    if (chooser->modal()) {
+    if (chooser && chooser->modal()) {
         swatch->setPaletteBackgroundColor(chooser->getColor());
         if (coupled)
             coupled->setPaletteBackgroundColor(chooser->getColor());

@@ -61,6 +61,11 @@ void* operator new(std::size_t size, const std::nothrow_t&) noexcept
     return std::malloc(size ? size : 1);
 }
 
+void* operator new[](std::size_t size, const std::nothrow_t&) noexcept
+{
+    return fails(__builtin_return_address(0)) ? nullptr : std::malloc(size ? size : 1);
+}
+
 void operator delete(void* memory) noexcept
 {
     std::free(memory);
