@@ -217,6 +217,11 @@ const x11::GcSlot* PainterData::takeBrushGc()
     return brushGc.slot;
 }
 
+QPoint PainterData::transformed(const QPoint& point) const
+{
+    return transform == Transform::Translation ? point + QPoint(dx, dy) : matrix.map(point);
+}
+
 QRect PainterData::mapRect(const QRect& rect) const
 {
     switch (transform) {
@@ -237,10 +242,8 @@ std::vector<x11::Point> PainterData::mapPoints(const QPointArray& points, int in
         static_cast<size_t>(count < 0 ? size - index : std::min(size - index, count)));
     const QPoint* const from = points.data() + index;
     std::transform(from, from + result.size(), result.begin(), [this](const QPoint& point) {
-        int x = point.x();
-        int y = point.y();
-        map(&x, &y);
-        return x11::Point{static_cast<short>(x), static_cast<short>(y)};
+        const QPoint mapped = map(point);
+        return x11::Point{static_cast<short>(mapped.x()), static_cast<short>(mapped.y())};
     });
     return result;
 }

@@ -82,17 +82,11 @@ struct PainterData {
     bool hasBrush() const { return state.brush.style() != Qt::NoBrush; }
 
     // From the program's coordinates to the device's.
-    void map(int* x, int* y) const
+    QPoint map(const QPoint& point) const
     {
-        if (transform == Transform::None)
-            return;
-        if (transform == Transform::Translation) {
-            *x += dx;
-            *y += dy;
-            return;
-        }
-        matrix.map(*x, *y, x, y);
+        return transform == Transform::None ? point : transformed(point);
     }
+    QPoint transformed(const QPoint& point) const;
     QRect mapRect(const QRect& rect) const;
     std::vector<x11::Point> mapPoints(const QPointArray& points, int index, int count) const;
     bool mapsRectsToRects() const { return transform != Transform::Other; }

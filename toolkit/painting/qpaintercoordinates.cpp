@@ -121,10 +121,7 @@ void QPainter::resetXForm()
 
 QPoint QPainter::xForm(const QPoint& p) const
 {
-    int x = p.x();
-    int y = p.y();
-    d->map(&x, &y);
-    return QPoint(x, y);
+    return d->map(p);
 }
 
 QRect QPainter::xForm(const QRect& rect) const

@@ -10,8 +10,8 @@ void QPainter::drawPoint(int x, int y)
 {
     if (!d->strokes())
         return;
-    d->map(&x, &y);
-    x11::drawPoints(d->drawable, d->forPen(), {{static_cast<short>(x), static_cast<short>(y)}});
+    const QPoint at = d->map(QPoint(x, y));
+    x11::drawPoints(d->drawable, d->forPen(), {{static_cast<short>(at.x()), static_cast<short>(at.y())}});
 }
 
 void QPainter::drawPoints(const QPointArray& points, int index, int count)
@@ -38,9 +38,13 @@ void QPainter::drawLine(int x1, int y1, int x2, int y2)
 {
     if (!d->strokes())
         return;
-    d->map(&x1, &y1);
-    d->map(&x2, &y2);
-    x11::drawLine(d->drawable, d->forPen(), x1, y1, x2, y2);
+    if (d->transform == zeltk::Transform::None) {
+        x11::drawLine(d->drawable, d->forPen(), x1, y1, x2, y2);
+        return;
+    }
+    const QPoint from = d->transformed(QPoint(x1, y1));
+    const QPoint to = d->transformed(QPoint(x2, y2));
+    x11::drawLine(d->drawable, d->forPen(), from.x(), from.y(), to.x(), to.y());
 }
 
 void QPainter::drawLineSegments(const QPointArray& points, int index, int lineCount)

@@ -17,12 +17,10 @@ void QPainter::drawPixmap(int x, int y, const QPixmap& pixmap, int sx, int sy, i
         QRect(sx, sy, sw < 0 ? pixmap.width() - sx : sw, sh < 0 ? pixmap.height() - sy : sh) & pixmap.rect();
     if (part.isEmpty())
         return;
-    x += part.x() - sx;
-    y += part.y() - sy;
-    d->map(&x, &y);
+    const QPoint at = d->map(QPoint(x + part.x() - sx, y + part.y() - sy));
     if (d->transform == zeltk::Transform::None || d->transform == zeltk::Transform::Translation) {
-        zeltk::blit(d->baseKey(), d->drawable, d->bitmap, x, y, &pixmap, part.x(), part.y(), part.width(),
-                    part.height(), false);
+        zeltk::blit(d->baseKey(), d->drawable, d->bitmap, at.x(), at.y(), &pixmap, part.x(), part.y(),
+                    part.width(), part.height(), false);
         return;
     }
     QPoint origin;
@@ -30,7 +28,7 @@ void QPainter::drawPixmap(int x, int y, const QPixmap& pixmap, int sx, int sy, i
     if (image.isNull())
         return;
     const QPixmap turned(image);
-    zeltk::blit(d->baseKey(), d->drawable, d->bitmap, x + origin.x(), y + origin.y(), &turned, 0, 0,
+    zeltk::blit(d->baseKey(), d->drawable, d->bitmap, at.x() + origin.x(), at.y() + origin.y(), &turned, 0, 0,
                 turned.width(), turned.height(), false);
 }
 

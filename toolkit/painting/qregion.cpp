@@ -41,7 +41,9 @@ RegionData* dataOf(const QRect& rect, QRegion::RegionType type)
         outline.makeEllipse(rect.x(), rect.y(), rect.width(), rect.height());
         return newData(zeltk::polygonRows(outline, false));
     }
-    return newData({{rect.top(), rect.bottom() + 1, {{rect.left(), rect.right() + 1}}}});
+    zeltk::Bands bands;
+    bands.push_back({rect.top(), rect.bottom() + 1, zeltk::Spans(1, {rect.left(), rect.right() + 1})});
+    return newData(std::move(bands));
 }
 
 bool isRect(const RegionData* data)
