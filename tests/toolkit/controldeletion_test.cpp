@@ -342,7 +342,12 @@ TEST_F(ControlDeletion, OfAScrollBar)
     const auto click = [](int x) { return [=](QScrollBar* b) { xinput::click(b, x, 8); }; };
     const auto hold = [](int x) {
         return [=](QScrollBar* b) {
-            xinput::moveTo(b, x, 8), xinput::pressButton(), settle(), xinput::moveTo(b, x + 10, 8), settle();
+            const QPoint at = b->mapToGlobal(QPoint(x, 8));
+            xinput::moveToRoot(at.x(), at.y());
+            xinput::pressButton();
+            settle();
+            xinput::moveToRoot(at.x() + 10, at.y());
+            settle();
             xinput::releaseButton();
         };
     };
