@@ -176,3 +176,13 @@ TEST(PainterText, GoesToTabStops)
     EXPECT_GE(inkOf(other.pixels()).left(), 30);
     EXPECT_LE(inkOf(other.pixels()).left(), 34);
 }
+
+TEST(PainterText, OfAMegabyteTheBeginningIsSeen)
+{
+    QString text;
+    text.fill('x', 1 << 20);
+    Sheet all(100, 40), beginning(100, 40);
+    all.painter.drawText(5, 25, text);
+    beginning.painter.drawText(5, 25, text.left(50));
+    EXPECT_EQ(beginning.pixels(), all.pixels());
+}

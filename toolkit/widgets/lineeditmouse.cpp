@@ -15,14 +15,16 @@ int LineEditData::positionAt(const QLineEdit* edit, int x) const
     const QFontMetrics metrics(edit->font());
     const QString text = shown();
     const int wanted = x - textStart(edit);
-    int before = 0;
-    for (int i = 0; i < static_cast<int>(text.length()); ++i) {
-        const int behind = metrics.width(text, i + 1);
-        if (wanted < (before + behind + 1) / 2)
-            return i;
-        before = behind;
+    int first = 0;
+    int last = static_cast<int>(text.length());
+    while (first < last) {
+        const int place = first + (last - first) / 2;
+        if (wanted < (metrics.width(text, place) + metrics.width(text, place + 1) + 1) / 2)
+            last = place;
+        else
+            first = place + 1;
     }
-    return static_cast<int>(text.length());
+    return first;
 }
 
 void LineEditData::setBlinking(QLineEdit* edit, bool on)

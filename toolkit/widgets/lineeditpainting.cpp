@@ -72,6 +72,23 @@ QString onOneLine(QString text)
     return text;
 }
 
+// The letters that can be seen. `start` is where the text begins; it becomes where they do.
+QString seenPart(const QString& text, const QFontMetrics& metrics, const QRect& line, int* start)
+{
+    const int margin = metrics.height(); // letters may reach beyond their room
+    uint from = 0;
+    for (; from < text.length(); ++from) {
+        const int next = *start + metrics.width(text.at(from));
+        if (next >= line.left() - margin)
+            break;
+        *start = next;
+    }
+    uint to = from;
+    for (int pen = *start; to < text.length() && pen <= line.right() + margin; ++to)
+        pen += metrics.width(text.at(to));
+    return text.mid(from, to - from);
+}
+
 } // namespace
 
 // Through a pixmap, so that it does not flicker.
@@ -92,8 +109,10 @@ void QLineEdit::drawContents(QPainter* painter)
     const QString text = onOneLine(d->shown());
     const int start = d->textStart(this);
     const int baseline = line.y() + metrics.ascent();
+    int seenStart = start;
+    const QString seen = seenPart(text, metrics, line, &seenStart);
     p.setPen(g.text());
-    p.drawText(start, baseline, text);
+    p.drawText(seenStart, baseline, seen);
     if (hasSelectedText() && echoMode() != NoEcho) {
         const int from = start + metrics.width(text, d->buffer.selectionStart());
         const int to = start + metrics.width(text, d->buffer.selectionEnd());
@@ -102,7 +121,7 @@ void QLineEdit::drawContents(QPainter* painter)
                             std::min(to, line.right() + 1) - std::max(from, line.x()), picture.height()));
         p.fillRect(from, line.y(), to - from, line.height(), QBrush(g.highlight()));
         p.setPen(g.highlightedText());
-        p.drawText(start, baseline, text);
+        p.drawText(seenStart, baseline, seen);
         p.restore();
     }
     if (d->cursorVisible && !d->readOnly && hasFocus()) {

@@ -164,19 +164,26 @@ void drawText(XId drawable, bool bitmap, const TextPiece& text, std::uint32_t co
     XftDraw* draw = drawOn(drawable, bitmap);
     setClip(draw, clip);
     const XftColor ink = inkOf(color, bitmap);
+    const auto isOut = [](const PlacedGlyph& glyph) {
+        return glyph.x != static_cast<short>(glyph.x) || glyph.y != static_cast<short>(glyph.y);
+    };
     XftFont* face = faceFor(text.font, text.matrix);
     std::vector<XftGlyphSpec> specs;
     for (const PlacedGlyph& glyph : text.glyphs) {
+        if (isOut(glyph)) // of the 16 bits of the wire
+            continue;
         if (isBoxed(text.font, glyph.c))
             drawBox(draw, ink, text, glyph);
         else
             specs.push_back({XftCharIndex(display(), face, glyph.c), static_cast<short>(glyph.x),
                              static_cast<short>(glyph.y)});
     }
-    // Turned letters may overlap; one by one they are laid over each other instead of adding up.
-    const size_t step = face == text.font->face ? specs.size() : 1;
+    // Turned letters may overlap; one by one they are laid over each other instead of adding up. More than
+    // some thousand of the others would not fit into one request.
+    const size_t step = face == text.font->face ? 4096 : 1;
     for (size_t i = 0; i < specs.size(); i += step)
-        XftDrawGlyphSpec(draw, &ink, face, specs.data() + i, static_cast<int>(step));
+        XftDrawGlyphSpec(draw, &ink, face, specs.data() + i,
+                         static_cast<int>(std::min(step, specs.size() - i)));
 }
 
 XId textMask(const TextPiece& text, const ClipRect& place)
