@@ -2,6 +2,7 @@
 #include "clock.h"
 #include "faketime.h"
 #include "invariants.h"
+#include "killing.h"
 #include "messages.h"
 #include "nestedsteps.h"
 #include "options.h"
@@ -80,6 +81,9 @@ int play(const Options& options)
     world.saboteur = &saboteur;
     NestedSteps nestedSteps(world);
     FakeTime wallClock(1000000);
+    const QWidget hidden(nullptr, "hidden");
+    if (options.killedAfter > 0)
+        killOwnerLater(hidden.winId(), options.killedAfter);
     watchdog::start(&report, &world.random.trace);
     for (const int step : options.steps)
         if (!takeStep(options, world, wallClock, step))
@@ -101,6 +105,8 @@ int main(int argc, char** argv)
         return 2;
     if (options.shrink)
         return shrink(argv[0], options);
+    if (options.kills > 0)
+        return playKilledGames(argv[0], options.kills);
     setenv("FONTCONFIG_FILE", TEST_FONTS_CONF, 0);
     setenv("XMODIFIERS", "@im=none", 1);
     setenv("LC_ALL", "C.UTF-8", 1);

@@ -20,11 +20,14 @@ static bool readNumbers(const char* text, std::vector<int>* numbers)
 static int usage()
 {
     std::fprintf(stderr, "usage: monkey [--seed N] [--steps N | --only N,N,...] [--verbose] [--shrink]\n"
+                         "       monkey --kills N\n"
                          "  --seed N     which game to play (1)\n"
                          "  --steps N    how many steps to take (1000)\n"
                          "  --only LIST  take only these steps of the game\n"
                          "  --verbose    print every step\n"
-                         "  --shrink     look for the fewest steps of a failing game that still fail\n");
+                         "  --shrink     look for the fewest steps of a failing game that still fail\n"
+                         "  --killed-after N  end the connection to the X server after so many microseconds\n"
+                         "  --kills N    play so many games whose connection ends at a random moment\n");
     return 0;
 }
 
@@ -41,6 +44,10 @@ bool readOptions(int argc, char** argv, Options* options)
             options->seed = std::atoi(argv[++i]);
         else if (!std::strcmp(argv[i], "--steps") && hasValue)
             count = std::atoi(argv[++i]);
+        else if (!std::strcmp(argv[i], "--killed-after") && hasValue)
+            options->killedAfter = std::atoi(argv[++i]);
+        else if (!std::strcmp(argv[i], "--kills") && hasValue)
+            options->kills = std::atoi(argv[++i]);
         else if (!std::strcmp(argv[i], "--only") && hasValue && readNumbers(argv[i + 1], &options->steps))
             ++i;
         else

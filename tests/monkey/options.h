@@ -8,6 +8,8 @@ struct Options {
     std::vector<int> steps; // their numbers
     bool verbose = false;
     bool shrink = false;
+    int killedAfter = 0; // microseconds; 0: never
+    int kills = 0;       // how many games that are killed to play instead
 };
 
 // False, after a word to the user, if they make no sense.
