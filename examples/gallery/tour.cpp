@@ -31,8 +31,8 @@ std::string fileName(const char* objectName)
 } // namespace
 
 Tour::Tour(GalleryWindow& gallery, const std::string& folder, View view)
-    : m_gallery(gallery), m_folder(folder), m_view(view), m_next(0), m_acted(false), m_failed(false),
-      m_display(0)
+    : m_gallery(gallery), m_folder(folder), m_view(view), m_next(0), m_acted(false), m_dialogOpened(false),
+      m_failed(false), m_display(0)
 {
     if (view == Window)
         m_steps.push_back({&gallery, Rest, "gallery"});
@@ -80,8 +80,13 @@ void Tour::nextStep()
         m_acted = true;
         return;
     }
-    m_acted = false;
-    settle();
+    // A dialog that has just opened has its exposures now and is painted before the next tick.
+    if (!m_dialogOpened && QApplication::activeModalWidget()) {
+        QApplication::syncX();
+        m_dialogOpened = true;
+        return;
+    }
+    m_acted = m_dialogOpened = false;
     m_failed = !takePicture(step);
     ++m_next;
     if (m_failed || m_next == m_steps.size()) {
@@ -108,17 +113,6 @@ void Tour::act(const Step& step)
         break;
     }
     XSync(m_display, False);
-}
-
-// What the action has caused reaches the screen: windows that come, and what is painted in them then.
-void Tour::settle()
-{
-    m_timer.stop();
-    for (int round = 0; round < 8; ++round) {
-        QApplication::syncX();
-        qApp->processEvents();
-    }
-    m_timer.start(stepMilliseconds);
 }
 
 // A dialog that the step has opened is pictured in the place of the gallery, and closed.

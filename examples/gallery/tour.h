@@ -42,7 +42,6 @@ private:
     };
 
     void act(const Step& step);
-    void settle();
     bool takePicture(const Step& step);
 
     GalleryWindow& m_gallery;
@@ -51,6 +50,7 @@ private:
     std::vector<Step> m_steps;
     unsigned m_next;
     bool m_acted;
+    bool m_dialogOpened;
     bool m_failed;
     QTimer m_timer;
     _XDisplay* m_display;
