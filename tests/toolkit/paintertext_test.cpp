@@ -184,5 +184,5 @@ TEST(PainterText, OfAMegabyteTheBeginningIsSeen)
     Sheet all(100, 40), beginning(100, 40);
     all.painter.drawText(5, 25, text);
     beginning.painter.drawText(5, 25, text.left(50));
-    EXPECT_EQ(beginning.pixels(), all.pixels());
+    EXPECT_EQ(beginning.pixels().differenceFrom(all.pixels()), "");
 }

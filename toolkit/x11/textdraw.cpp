@@ -149,6 +149,19 @@ void drawBox(XftDraw* draw, const XftColor& ink, const TextPiece& text, const Pl
     }
 }
 
+// How many letters, from that one on, the server draws at once: neither too many for a request nor too far
+// from each other for a picture that holds them all.
+size_t oneRequest(const std::vector<XftGlyphSpec>& specs, size_t first)
+{
+    constexpr size_t most = 4096;
+    constexpr int farthest = 8192;
+    size_t end = first + 1;
+    while (end < specs.size() && end - first < most && std::abs(specs[end].x - specs[first].x) < farthest &&
+           std::abs(specs[end].y - specs[first].y) < farthest)
+        ++end;
+    return end - first;
+}
+
 } // namespace
 
 bool LetterMatrix::operator==(const LetterMatrix& other) const
@@ -178,12 +191,12 @@ void drawText(XId drawable, bool bitmap, const TextPiece& text, std::uint32_t co
             specs.push_back({XftCharIndex(display(), face, glyph.c), static_cast<short>(glyph.x),
                              static_cast<short>(glyph.y)});
     }
-    // Turned letters may overlap; one by one they are laid over each other instead of adding up. More than
-    // some thousand of the others would not fit into one request.
-    const size_t step = face == text.font->face ? 4096 : 1;
-    for (size_t i = 0; i < specs.size(); i += step)
-        XftDrawGlyphSpec(draw, &ink, face, specs.data() + i,
-                         static_cast<int>(std::min(step, specs.size() - i)));
+    // Turned letters may overlap; one by one they are laid over each other instead of adding up.
+    const bool oneByOne = face != text.font->face;
+    for (size_t i = 0, step; i < specs.size(); i += step) {
+        step = oneByOne ? 1 : oneRequest(specs, i);
+        XftDrawGlyphSpec(draw, &ink, face, specs.data() + i, static_cast<int>(step));
+    }
 }
 
 XId textMask(const TextPiece& text, const ClipRect& place)
