@@ -12,7 +12,9 @@
 #include <qlabel.h>
 #include <qlayout.h>
 
+#include <cstddef>
 #include <memory>
+#include <vector>
 
 namespace
 {
@@ -379,5 +381,112 @@ TEST(LayoutWindow, GoesWithItsLayoutsAndChildrenInAnyOrder)
         settle();
     }
 }
+
+// Boxes, children and their layouts come, go and change in any order; the window stays as
+// large as it must be. Meant above all for the sanitizers.
+class Changes : public testing::TestWithParam<unsigned>
+{
+protected:
+    unsigned pick(size_t count)
+    {
+        m_state = m_state * 1664525u + 1013904223u;
+        return static_cast<unsigned>((m_state >> 8) % count);
+    }
+    QBoxLayout* anyBox() { return boxes[pick(boxes.size())]; }
+    void add()
+    {
+        Kid* const kid = new Kid(&window, preferred, QSize(5 + pick(60), 5 + pick(40)));
+        kids.push_back(kid);
+        anyBox()->insertWidget(static_cast<int>(pick(3)) - 1, kid, static_cast<int>(pick(3)), pick(70));
+        if (pick(4))
+            kid->show();
+    }
+    void take(bool away)
+    {
+        if (kids.empty())
+            return;
+        const size_t index = pick(kids.size());
+        if (away)
+            kids[index]->reparent(&elsewhere, QPoint(0, 0), pick(2));
+        else
+            delete kids[index];
+        kids.erase(kids.begin() + static_cast<std::ptrdiff_t>(index));
+    }
+    void nest() { boxes.push_back(new QVBoxLayout(anyBox(), static_cast<int>(pick(9)))); }
+    // One without other boxes inside.
+    void deleteBox()
+    {
+        if (boxes.size() > 1) {
+            delete boxes.back();
+            boxes.pop_back();
+        }
+    }
+    void change()
+    {
+        QBoxLayout* const box = anyBox();
+        box->setDirection(static_cast<QBoxLayout::Direction>(pick(4)));
+        box->setSpacing(static_cast<int>(pick(10)));
+        box->setMargin(static_cast<int>(pick(10)));
+        if (pick(5) == 0)
+            box->addStretch(static_cast<int>(pick(3)));
+    }
+    void hideOrShow()
+    {
+        if (kids.empty())
+            return;
+        Kid* const kid = kids[pick(kids.size())];
+        if (kid->isHidden())
+            kid->show();
+        else
+            kid->hide();
+    }
+
+    QWidget window;
+    QWidget elsewhere;
+    std::vector<QBoxLayout*> boxes;
+    std::vector<Kid*> kids;
+
+private:
+    unsigned m_state = GetParam();
+};
+
+TEST_P(Changes, InAnyOrderDoNoHarm)
+{
+    boxes.push_back(new QHBoxLayout(&window, 4, 3));
+    showAndWait(&window);
+    for (int step = 0; step < 300; ++step) {
+        switch (pick(9)) {
+        case 0:
+        case 1:
+        case 2:
+            add();
+            break;
+        case 3:
+            take(pick(3) == 0);
+            break;
+        case 4:
+            nest();
+            break;
+        case 5:
+            deleteBox();
+            break;
+        case 6:
+            change();
+            break;
+        case 7:
+            hideOrShow();
+            break;
+        default:
+            window.resize(static_cast<int>(pick(900)), static_cast<int>(pick(700)));
+        }
+        if (pick(3) == 0)
+            qApp->processEvents();
+    }
+    settle();
+    EXPECT_GE(window.width(), boxes[0]->minimumSize().width());
+    EXPECT_GE(window.height(), boxes[0]->minimumSize().height());
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, Changes, testing::Range(1u, 9u));
 
 } // namespace
