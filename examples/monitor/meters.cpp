@@ -2,6 +2,7 @@
 #include "procfile.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 
 namespace
@@ -23,7 +24,7 @@ std::string rateText(double bytes)
 
 Reading percent(double share)
 {
-    const int whole = static_cast<int>(100 * std::clamp(share, 0.0, 1.0) + 0.5);
+    const long whole = std::lround(100 * std::clamp(share, 0.0, 1.0));
     return {whole, std::to_string(whole) + " %"};
 }
 

@@ -45,7 +45,7 @@ MonitorWindow::MonitorWindow(const std::string& folder) : QWidget(nullptr, "moni
     QVBoxLayout* const lines = new QVBoxLayout(this, 10, 10);
     QHBoxLayout* line = nullptr;
     for (const auto& entry : panels) {
-        if (m_entries.size() % panelsPerLine == 0) {
+        if (!line || m_entries.size() % panelsPerLine == 0) {
             line = new QHBoxLayout(14);
             lines->addLayout(line, 1);
         }

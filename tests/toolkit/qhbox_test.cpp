@@ -83,4 +83,15 @@ TEST(BoxWidget, StretchesItsChildren)
     EXPECT_EQ(places(&box), "0,0 50x20 | 50,0 150x20");
 }
 
+TEST(BoxWidget, IsAFrameWhenItsLayoutIsGone)
+{
+    QHBox box;
+    Kid* const a = new Kid(&box, preferred, QSize(10, 20));
+    delete box.layout();
+    box.setSpacing(3);
+    box.setMargin(2);
+    EXPECT_FALSE(box.setStretchFactor(a, 1));
+    EXPECT_EQ(box.sizeHint(), QFrame(nullptr).sizeHint());
+}
+
 } // namespace

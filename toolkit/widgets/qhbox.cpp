@@ -29,24 +29,26 @@ QHBox::QHBox(bool horizontal, QWidget* parent, const char* name, WFlags f) : QFr
 
 void QHBox::setSpacing(int spacing)
 {
-    layout()->setSpacing(spacing);
+    if (layout())
+        layout()->setSpacing(spacing);
 }
 
 bool QHBox::setStretchFactor(QWidget* child, int stretch)
 {
     addChildren(this);
-    return static_cast<QBoxLayout*>(layout())->setStretchFactor(child, stretch);
+    return layout() && static_cast<QBoxLayout*>(layout())->setStretchFactor(child, stretch);
 }
 
 QSize QHBox::sizeHint() const
 {
     addChildren(this);
-    return QWidget::sizeHint();
+    return layout() ? layout()->totalSizeHint() : QFrame::sizeHint();
 }
 
 void QHBox::frameChanged()
 {
-    layout()->setMargin(frameWidth());
+    if (layout())
+        layout()->setMargin(frameWidth());
 }
 
 QVBox::QVBox(QWidget* parent, const char* name, WFlags f) : QHBox(false, parent, name, f) {}
