@@ -16,6 +16,8 @@ void ensureStyled();
 // QWidget's show and hide, after the window was mapped and before it is unmapped.
 void popupShown(QWidget* popup);
 void popupHidden(QWidget* popup);
+// Popups that belong to somebody in a widget that was hidden do not stay.
+void hidePopupsOf(QWidget* hidden);
 void modalShown(QWidget* modal);
 void modalHidden(QWidget* modal);
 // True if a modal widget or popup keeps input from this widget.

@@ -8,7 +8,10 @@
 
 #include <qguardedptr.h>
 
+#include <qguardedptr.h>
+
 #include <algorithm>
+#include <vector>
 
 namespace zeltk
 {
@@ -38,6 +41,17 @@ void popupHidden(QWidget* popup)
     x11::ungrabKeyboard(x11::lastTime());
     if (app->active)
         moveFocus(dataOf(app->active)->focus, QFocusEvent::Popup);
+}
+
+void hidePopupsOf(QWidget* hidden)
+{
+    std::vector<QGuardedPtr<QWidget>> popups;
+    for (QWidget* popup : application()->popups)
+        if (popup != hidden && isInside(popup, hidden) && !popup->parentWidget()->isVisible())
+            popups.emplace_back(popup);
+    for (const QGuardedPtr<QWidget>& popup : popups)
+        if (popup)
+            popup->hide();
 }
 
 void modalShown(QWidget* modal)

@@ -179,6 +179,8 @@ void QWidget::hide()
     QApplication::sendEvent(this, &event);
     if (alive)
         hideChildren(this);
+    if (alive)
+        zeltk::hidePopupsOf(this);
     if (alive && !isTopLevel() && parentWidget())
         QApplication::postEvent(parentWidget(), new QEvent(QEvent::LayoutHint));
 }
