@@ -39,7 +39,7 @@ MonitorWindow::MonitorWindow(const std::string& folder) : QWidget(nullptr, "moni
         {{"Processor (%)", false, QColor(80, 220, 80)}, makeProcessorMeter},
         {{"Memory (%)", false, QColor(80, 160, 255)}, makeMemoryMeter},
         {{"Network (KiB/s)", true, QColor(240, 190, 60)}, makeNetworkMeter},
-        {{"Disks (% of the time)", false, QColor(255, 110, 110)}, makeDiskMeter},
+        {{"Disks (% busy)", false, QColor(255, 110, 110)}, makeDiskMeter},
     };
     setCaption("zelkit monitor");
     QVBoxLayout* const lines = new QVBoxLayout(this, 10, 10);
@@ -62,7 +62,7 @@ MonitorWindow::MonitorWindow(const std::string& folder) : QWidget(nullptr, "moni
     choices->addStretch();
     choices->addWidget(font);
     connect(&m_timer, SIGNAL(timeout()), this, SLOT(sample()));
-    resize(580, 380);
+    resize(640, 400);
 }
 
 MonitorWindow::~MonitorWindow() {}

@@ -14,8 +14,9 @@ Panel::Panel(QWidget* parent, const Looks& looks)
       m_value(new QLabel(this, "value")), m_graph(new ZelGraph(this, "graph", true)), m_bars(false),
       m_counting(false), m_zero(0), m_second(0)
 {
-    // A longer value must not move anything.
+    // Values of any length move nothing.
     m_value->setSizePolicy(QSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum));
+    m_value->setMinimumWidth(m_value->fontMetrics().width("999 MiB/s"));
     m_value->setAlignment(AlignRight | AlignVCenter);
     m_graph->setMinimumSize(120, 50);
     setParameters();

@@ -18,7 +18,7 @@
 namespace
 {
 
-const char* const captions[] = {"Processor (%)", "Memory (%)", "Network (KiB/s)", "Disks (% of the time)"};
+const char* const captions[] = {"Processor (%)", "Memory (%)", "Network (KiB/s)", "Disks (% busy)"};
 
 class MonitorChoices : public testing::Test
 {
@@ -144,7 +144,7 @@ TEST_F(MonitorChoices, AllCaptionsTakeTheChosenFont)
     for (const char* caption : captions)
         EXPECT_EQ(captionFont(caption), expected) << caption;
     EXPECT_GT(part("Memory (%)", "caption")->height(), height);
-    EXPECT_TRUE(window.rect().contains(childNamed(&window, "Disks (% of the time)")->geometry()));
+    EXPECT_TRUE(window.rect().contains(childNamed(&window, "Disks (% busy)")->geometry()));
 }
 
 TEST_F(MonitorChoices, ACancelledFontChangesNothing)

@@ -180,7 +180,7 @@ TEST_F(Monitor, SharesTheWindowBetweenTheGraphs)
     settle();
     EXPECT_GE(graph("Processor (%)")->width(), 120);
     EXPECT_GE(graph("Processor (%)")->height(), 50);
-    const QWidget* const last = panel("Disks (% of the time)");
+    const QWidget* const last = panel("Disks (% busy)");
     EXPECT_TRUE(window.rect().contains(last->geometry()));
 }
 
@@ -192,6 +192,17 @@ TEST_F(Monitor, KeepsTheGraphsWhileTheValuesChange)
     settle();
     EXPECT_EQ(graph("Network (KiB/s)")->size(), before);
     EXPECT_EQ(columns(graph("Processor (%)"), processorColour), 10) << "nothing began anew";
+}
+
+TEST_F(Monitor, HasRoomForEveryValue)
+{
+    window.resize(1, 1);
+    settle();
+    for (const char* caption : {"Processor (%)", "Memory (%)", "Network (KiB/s)", "Disks (% busy)"}) {
+        const QWidget* const label = childNamed(panel(caption), "value");
+        EXPECT_GE(label->width(), label->fontMetrics().width("999 MiB/s")) << caption;
+        EXPECT_TRUE(panel(caption)->rect().contains(label->geometry())) << caption;
+    }
 }
 
 TEST_F(Monitor, TellsTheValueUnderThePointer)
@@ -237,19 +248,19 @@ TEST_F(Monitor, TakesNoMoreMemoryAfterHours)
             window.sampleAt(now += 1000);
         }
     };
-    window.resize(320, 240);
-    sampleOften(200); // every column has its sample
+    window.resize(700, 300);
+    sampleOften(400); // every column has its sample
     settle();
     const size_t heap = heapInUse();
     const char* const server = std::getenv("XVFB_PROCESS");
     const size_t serverMemory = residentMemory(server);
     for (int round = 0; round < 8; ++round) {
         window.setBars(round % 2);
-        window.resize(320 + round, 240);
+        window.resize(700 + round, 300);
         settle();
         sampleOften(500);
     }
-    window.resize(320, 240);
+    window.resize(700, 300);
     sampleOften(200);
     settle();
     EXPECT_LT(heapInUse(), heap + 50000) << "of 16800 pictures";
