@@ -58,6 +58,7 @@ public:
     {
         XUnmapWindow(m_display, window.winId());
         XUnmapWindow(m_display, m_frames[window.winId()]);
+        noteState(window.winId(), IconicState);
         XSync(m_display, False);
     }
 
@@ -88,6 +89,15 @@ private:
         }
         XMapWindow(m_display, client);
         XMapWindow(m_display, m_frames[client]);
+        noteState(client, NormalState);
+    }
+
+    void noteState(Window client, long state)
+    {
+        const Atom property = XInternAtom(m_display, "WM_STATE", False);
+        const long value[] = {state, 0};
+        XChangeProperty(m_display, client, property, property, 32, PropModeReplace,
+                        reinterpret_cast<const unsigned char*>(value), 2);
     }
 
     void configure(const XConfigureRequestEvent& wish)

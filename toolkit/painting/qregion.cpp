@@ -136,9 +136,15 @@ QRegion QRegion::unite(const QRegion& other) const
 
 QRegion QRegion::intersect(const QRegion& other) const
 {
-    // Mostly a part that lies within is cut to the rectangle of the whole.
-    if (!isEmpty() && isRect(other.d) && other.boundingRect().contains(boundingRect()))
-        return *this;
+    // Mostly rectangles are cut to each other, and often one lies within the other.
+    if (!isEmpty() && isRect(other.d)) {
+        const QRect bounds = boundingRect();
+        const QRect limits = other.boundingRect();
+        if (limits.contains(bounds))
+            return *this;
+        if (isRect(d))
+            return QRegion(bounds & limits);
+    }
     return QRegion(newData(combined(d->bands, other.d->bands, SetOperation::Intersect)));
 }
 

@@ -7,6 +7,8 @@
 #include <qevent.h>
 #include <qpainter.h>
 
+#include <algorithm>
+
 namespace
 {
 
@@ -125,11 +127,24 @@ void QFrame::resizeEvent(QResizeEvent* event)
     frameChanged();
 }
 
+namespace
+{
+
+bool reachesFrame(const QRegion& region, const QRect& frame, const QRect& contents)
+{
+    const QMemArray<QRect> rects = region.rects();
+    return std::any_of(rects.data(), rects.data() + rects.size(), [&](const QRect& rect) {
+        const QRect part = rect & frame;
+        return !part.isEmpty() && (contents.isEmpty() || !contents.contains(part));
+    });
+}
+
+} // namespace
+
 void QFrame::paintEvent(QPaintEvent* event)
 {
     QPainter p(this);
-    const QRegion frame = QRegion(frameRect()) - QRegion(contentsRect());
-    if (event->region().contains(frameRect()) && !(event->region() & frame).isEmpty())
+    if (reachesFrame(event->region(), frameRect(), contentsRect()))
         drawFrame(&p);
     if (event->rect().intersects(contentsRect())) {
         p.setClipRegion(event->region() & QRegion(contentsRect()));
