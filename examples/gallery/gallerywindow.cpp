@@ -4,6 +4,7 @@
 #include <qdesktopwidget.h>
 #include <qfont.h>
 #include <qlabel.h>
+#include <qobjectlist.h>
 
 #include <algorithm>
 
@@ -14,6 +15,24 @@ const int headingHeight = 22;
 const int rowWidth = 460;
 const int columnHeight = 560;
 const int statusHeight = 26;
+const char sample[] = "Choose colours"; // all of the above suits letters with which this is so wide
+const int sampleWidth = 128;
+
+// The rows are plain widgets, and what stands in them is placed by hand too.
+void enlargeChildren(QWidget* parent, double factor)
+{
+    QObjectListIterator each(*parent->children());
+    for (QObject* object = each.current(); object; object = ++each) {
+        if (!object->isWidgetType())
+            continue;
+        QWidget* const child = static_cast<QWidget*>(object);
+        const QRect place = child->geometry();
+        child->setGeometry(qRound(place.x() * factor), qRound(place.y() * factor),
+                           qRound(place.width() * factor), qRound(place.height() * factor));
+        if (child->isA("QWidget") && child->children())
+            enlargeChildren(child, factor);
+    }
+}
 } // namespace
 
 SignalTeller::SignalTeller(QObject* sender, const char* signal, QLabel* line)
@@ -68,7 +87,10 @@ void GalleryWindow::finish()
 {
     const int right = m_left + rowWidth;
     m_status->setGeometry(margin, m_height, right - margin, statusHeight);
-    setFixedSize(right + margin, m_height + statusHeight + margin);
+    const double factor = std::max(1.0, double(fontMetrics().width(sample)) / sampleWidth);
+    if (factor > 1)
+        enlargeChildren(this, factor);
+    setFixedSize(qRound((right + margin) * factor), qRound((m_height + statusHeight + margin) * factor));
     const QRect screen = QApplication::desktop()->geometry();
     move((screen.width() - width()) / 2, std::max((screen.height() - height()) / 2, 0));
 }

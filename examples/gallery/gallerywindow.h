@@ -40,7 +40,8 @@ public:
     // Shows the signal on the status line from now on and makes the widget a stop of the tour.
     void watch(QWidget* sender, const char* signal);
 
-    // Places the status line and fixes the size; call it when all rows are there.
+    // Places the status line and fixes the size, larger on a screen with large letters; call it when all rows
+    // are there.
     void finish();
 
     const std::vector<QWidget*>& tourStops() const { return m_stops; }

@@ -2,6 +2,7 @@
 #include <X11/extensions/Xrender.h> // before xlib.h, which removes macros that it needs
 
 #include "x11/blend.h"
+#include "x11/colorcells.h"
 #include "x11/xlib.h"
 
 namespace zeltk
@@ -42,7 +43,8 @@ bool canBlend()
 {
     int event;
     int error;
-    static const bool able = XRenderQueryExtension(display(), &event, &error) && screenFormat();
+    static const bool able =
+        !hasColorCells() && XRenderQueryExtension(display(), &event, &error) && screenFormat();
     return able;
 }
 

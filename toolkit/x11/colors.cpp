@@ -1,6 +1,7 @@
 // Colours as the X server knows them.
 #include "x11/colors.h"
 
+#include "x11/colorcells.h"
 #include "x11/connection.h"
 #include "x11/xlib.h"
 
@@ -65,12 +66,21 @@ unsigned long pixelOf(std::uint32_t rgb)
 {
     if (!connected())
         return rgb & 0xffffff;
+    if (hasColorCells())
+        return cellOf(rgb & 0xffffff);
     return toPixel(rgb >> 16 & 0xff, visual().red) | toPixel(rgb >> 8 & 0xff, visual().green) |
            toPixel(rgb & 0xff, visual().blue);
 }
 
+unsigned long picturePixelOf(std::uint32_t rgb)
+{
+    return hasColorCells() ? pictureCellOf(rgb & 0xffffff) : pixelOf(rgb);
+}
+
 std::uint32_t colorOf(unsigned long pixel)
 {
+    if (hasColorCells())
+        return colorOfCell(pixel);
     return fromPixel(pixel, visual().red) << 16 | fromPixel(pixel, visual().green) << 8 |
            fromPixel(pixel, visual().blue);
 }

@@ -127,7 +127,7 @@ void writePixels(XId drawable, bool bitmap, const std::uint32_t* pixels, int wid
         std::calloc(static_cast<size_t>(image->bytes_per_line), static_cast<size_t>(height)));
     for (int row = 0; row < height; ++row)
         for (int column = 0; column < width; ++column, ++pixels)
-            XPutPixel(image, column, row, bitmap ? *pixels & 1 : pixelOf(*pixels & 0xffffff));
+            XPutPixel(image, column, row, bitmap ? *pixels & 1 : picturePixelOf(*pixels & 0xffffff));
     GcKey plain;
     plain.bitmap = bitmap;
     XPutImage(display(), drawable, gcFor(plain)->gc, image, 0, 0, 0, 0, static_cast<unsigned>(width),

@@ -1,4 +1,9 @@
 // Text on drawables.
+#include "x11/colorcells.h"
+#include "x11/colors.h"
+#include "x11/draw.h"
+#include "x11/pixmap.h"
+
 #include "x11/fontface.h"
 #include "x11/textdraw.h"
 #include "x11/xlib.h"
@@ -53,7 +58,7 @@ XftDraw* drawOn(XId drawable, bool bitmap)
 XftColor inkOf(std::uint32_t rgb, bool bitmap)
 {
     XftColor color;
-    color.pixel = 0;
+    color.pixel = bitmap ? rgb & 1 : pixelOf(rgb);
     color.color.red = static_cast<unsigned short>((rgb >> 16 & 0xff) * 0x101);
     color.color.green = static_cast<unsigned short>((rgb >> 8 & 0xff) * 0x101);
     color.color.blue = static_cast<unsigned short>((rgb & 0xff) * 0x101);
@@ -149,9 +154,16 @@ void drawBox(XftDraw* draw, const XftColor& ink, const TextPiece& text, const Pl
     }
 }
 
+// Beyond the 16 bits of the wire.
+bool isOut(const PlacedGlyph& glyph)
+{
+    return glyph.x != static_cast<short>(glyph.x) || glyph.y != static_cast<short>(glyph.y);
+}
+
 // How many letters, from that one on, the server draws at once: neither too many for a request nor too far
 // from each other for a picture that holds them all.
-size_t oneRequest(const std::vector<XftGlyphSpec>& specs, size_t first)
+template <class Glyph>
+size_t oneRequest(const std::vector<Glyph>& specs, size_t first)
 {
     constexpr size_t most = 4096;
     constexpr int farthest = 8192;
@@ -160,6 +172,63 @@ size_t oneRequest(const std::vector<XftGlyphSpec>& specs, size_t first)
            std::abs(specs[end].y - specs[first].y) < farthest)
         ++end;
     return end - first;
+}
+
+// What all glyphs together take up, boxes included.
+ClipRect placeOf(const TextPiece& text, XftFont* face)
+{
+    int left = 0;
+    int top = 0;
+    int right = 0;
+    int bottom = 0;
+    for (const PlacedGlyph& glyph : text.glyphs) {
+        const FT_UInt index = XftCharIndex(display(), face, glyph.c);
+        XGlyphInfo info;
+        XftGlyphExtents(display(), face, &index, 1, &info);
+        const int reach = isBoxed(text.font, glyph.c) ? 2 * text.font->pixelSize : 0;
+        const bool first = &glyph == text.glyphs.data();
+        const int x1 = glyph.x - std::max<int>(info.x, reach);
+        const int y1 = glyph.y - std::max<int>(info.y, reach);
+        const int x2 = glyph.x + std::max<int>(info.width - info.x, reach);
+        const int y2 = glyph.y + std::max<int>(info.height - info.y, reach);
+        left = first ? x1 : std::min(left, x1);
+        top = first ? y1 : std::min(top, y1);
+        right = first ? x2 : std::max(right, x2);
+        bottom = first ? y2 : std::max(bottom, y2);
+    }
+    return {left, top, right - left, bottom - top};
+}
+
+void fillThroughMask(XId drawable, GcKey key, const TextPiece& text, XftFont* face)
+{
+    const ClipRect place = placeOf(text, face);
+    if (place.width <= 0 || place.height <= 0)
+        return;
+    const XId mask = textMask(text, place);
+    key.pattern = mask;
+    key.originX = place.x;
+    key.originY = place.y;
+    fillRectangle(drawable, gcFor(key), place.x, place.y, place.width, place.height);
+    freePixmap(mask);
+}
+
+// Without shades, for screens where these cannot be mixed.
+void drawThroughMasks(XId drawable, const TextPiece& text, XftFont* face, std::uint32_t color,
+                      const std::vector<ClipRect>* clip)
+{
+    GcKey key;
+    key.foreground = pixelOf(color);
+    key.fill = FillWithStipple;
+    if (clip)
+        key.clip = std::make_shared<const std::vector<ClipRect>>(*clip);
+    std::vector<PlacedGlyph> glyphs = text.glyphs;
+    glyphs.erase(std::remove_if(glyphs.begin(), glyphs.end(), isOut), glyphs.end());
+    for (size_t i = 0, step; i < glyphs.size(); i += step) {
+        step = oneRequest(glyphs, i);
+        const auto begin = glyphs.begin() + static_cast<std::ptrdiff_t>(i);
+        fillThroughMask(drawable, key,
+                        {text.font, text.matrix, {begin, begin + static_cast<std::ptrdiff_t>(step)}}, face);
+    }
 }
 
 } // namespace
@@ -174,16 +243,17 @@ void drawText(XId drawable, bool bitmap, const TextPiece& text, std::uint32_t co
 {
     if (!text.font)
         return;
+    XftFont* face = faceFor(text.font, text.matrix);
+    if (!bitmap && hasColorCells()) {
+        drawThroughMasks(drawable, text, face, color, clip);
+        return;
+    }
     XftDraw* draw = drawOn(drawable, bitmap);
     setClip(draw, clip);
     const XftColor ink = inkOf(color, bitmap);
-    const auto isOut = [](const PlacedGlyph& glyph) {
-        return glyph.x != static_cast<short>(glyph.x) || glyph.y != static_cast<short>(glyph.y);
-    };
-    XftFont* face = faceFor(text.font, text.matrix);
     std::vector<XftGlyphSpec> specs;
     for (const PlacedGlyph& glyph : text.glyphs) {
-        if (isOut(glyph)) // of the 16 bits of the wire
+        if (isOut(glyph))
             continue;
         if (isBoxed(text.font, glyph.c))
             drawBox(draw, ink, text, glyph);
@@ -203,27 +273,32 @@ XId textMask(const TextPiece& text, const ClipRect& place)
 {
     const auto w = static_cast<unsigned>(place.width);
     const auto h = static_cast<unsigned>(place.height);
-    const Pixmap canvas = XCreatePixmap(display(), rootWindow(), w, h, static_cast<unsigned>(depth()));
-    XGCValues values;
-    values.foreground = BlackPixel(display(), screen());
-    const GC gc = XCreateGC(display(), canvas, GCForeground, &values);
-    XFillRectangle(display(), canvas, gc, 0, 0, w, h);
-    XFreeGC(display(), gc);
     TextPiece moved = text;
     for (PlacedGlyph& glyph : moved.glyphs) {
         glyph.x -= place.x;
         glyph.y -= place.y;
     }
+    if (hasColorCells()) {
+        const XId mask = createPixmap(place.width, place.height, 1);
+        GcKey clear;
+        clear.bitmap = true;
+        fillRectangle(mask, gcFor(clear), 0, 0, place.width, place.height);
+        drawText(mask, true, moved, 1, nullptr);
+        return mask;
+    }
+    const XId canvas = createPixmap(place.width, place.height, depth());
+    GcKey black;
+    black.foreground = pixelOf(0x000000);
+    fillRectangle(canvas, gcFor(black), 0, 0, place.width, place.height);
     drawText(canvas, false, moved, 0xffffff, nullptr);
     XImage* image = XGetImage(display(), canvas, 0, 0, w, h, AllPlanes, ZPixmap);
-    forgetDrawable(canvas);
-    XFreePixmap(display(), canvas);
+    freePixmap(canvas);
 
     const unsigned rowBytes = (w + 7) / 8;
     std::vector<char> bits(rowBytes * h, 0);
     for (unsigned row = 0; image && row < h; ++row)
         for (unsigned column = 0; column < w; ++column)
-            if ((XGetPixel(image, static_cast<int>(column), static_cast<int>(row)) & 0xff) >= 128)
+            if ((colorOf(XGetPixel(image, static_cast<int>(column), static_cast<int>(row))) & 0xff) >= 128)
                 bits[row * rowBytes + column / 8] |= static_cast<char>(1 << column % 8);
     if (image)
         XDestroyImage(image);
