@@ -11,8 +11,8 @@
 
 #include <fstream>
 #include <map>
-#include <regex>
 #include <string>
+#include <vector>
 
 namespace
 {
@@ -32,20 +32,39 @@ struct Listed {
     std::map<std::string, std::string> parts;
 };
 
+// "| `REdit` | QLabel | Red |" in its three parts, without the marks; empty if it is no row of the table.
+std::vector<std::string> cells(const std::string& line)
+{
+    std::vector<std::string> result;
+    for (size_t start = line.find("| "); start != std::string::npos && start + 2 < line.size();) {
+        const size_t end = line.find(" |", start + 2);
+        if (end == std::string::npos)
+            break;
+        result.push_back(line.substr(start + 2, end - start - 2));
+        start = end + 1;
+    }
+    if (result.size() != 3 || result[0].size() < 3 || result[0].front() != '`' || result[0].back() != '`')
+        return {};
+    result[0] = result[0].substr(1, result[0].size() - 2);
+    return result;
+}
+
+// Reads the section of the dialog: a heading, ## ZelColorDlg, "Choose color", and the table below it.
 Listed listed(const std::string& dialog)
 {
     Listed result;
     std::ifstream page(ZELKIT_DOCS "/texts.md");
-    const std::regex heading("## (\\w+), \"(.*)\""), row("\\| `(\\w+)` \\| (\\w+) \\| (.*) \\|");
-    std::string section;
-    std::smatch words;
+    const std::string heading = "## " + dialog + ", \"";
+    bool here = false;
     for (std::string line; std::getline(page, line);) {
-        if (std::regex_match(line, words, heading)) {
-            section = words[1];
-            if (section == dialog)
-                result.caption = words[2];
-        } else if (section == dialog && std::regex_match(line, words, row)) {
-            result.parts[words[1]] = words[2].str() + ": " + words[3].str();
+        if (line.compare(0, 3, "## ") == 0) {
+            here = line.compare(0, heading.size(), heading) == 0;
+            if (here)
+                result.caption = line.substr(heading.size(), line.size() - heading.size() - 1);
+        } else if (here) {
+            const std::vector<std::string> row = cells(line);
+            if (!row.empty())
+                result.parts[row[0]] = row[1] + ": " + row[2];
         }
     }
     return result;
