@@ -202,8 +202,10 @@ bool QLineEdit::event(QEvent* event)
             taken = taken || (modifiers == 0 && key->key() == each);
         for (int each : control)
             taken = taken || (modifiers == ControlButton && key->key() == each);
-        if (taken)
+        if (taken) {
             key->accept();
+            return true;
+        }
     } else if (event->type() == QEvent::Timer &&
                static_cast<QTimerEvent*>(event)->timerId() == d->blinkTimer) {
         d->cursorVisible = !d->cursorVisible;
