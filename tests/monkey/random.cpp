@@ -7,10 +7,18 @@
 // SplitMix64: small, and good from its first number on.
 std::uint64_t Random::next()
 {
+    if (m_end)
+        return m_bytes == m_end ? 0 : *m_bytes++;
     std::uint64_t z = (m_state += 0x9e3779b97f4a7c15u);
     z = (z ^ (z >> 30)) * 0xbf58476d1ce4e5b9u;
     z = (z ^ (z >> 27)) * 0x94d049bb133111ebu;
     return z ^ (z >> 31);
+}
+
+void Random::takeFrom(const unsigned char* bytes, std::size_t size)
+{
+    m_bytes = bytes;
+    m_end = bytes + size;
 }
 
 int Random::anyInt()

@@ -23,10 +23,16 @@ public:
     // Empty, plain, with blanks and accelerators, long, of many scripts, with lone surrogates, with zeroes.
     QString text();
 
+    // From now on the choices come from these bytes instead of from chance, as long as there are some.
+    void takeFrom(const unsigned char* bytes, std::size_t size);
+    bool hasMore() const { return m_bytes != m_end; }
+
     std::string trace;
 
 private:
     std::uint64_t m_state;
+    const unsigned char* m_bytes = nullptr;
+    const unsigned char* m_end = nullptr;
 };
 
 #endif
