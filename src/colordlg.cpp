@@ -70,14 +70,16 @@ void ZelColorDlg::init(const QColor& color)
 
 ZelLineEditInt*& ZelColorDlg::edit(int channel)
 {
-    ZelLineEditInt** const edits[channelCount] = {&rEdit, &gEdit, &bEdit};
-    return *edits[channel];
+    static ZelLineEditInt* ZelColorDlg::*const edits[channelCount] = {
+        &ZelColorDlg::rEdit, &ZelColorDlg::gEdit, &ZelColorDlg::bEdit};
+    return this->*edits[channel];
 }
 
 QScrollBar*& ZelColorDlg::scroll(int channel)
 {
-    QScrollBar** const scrolls[channelCount] = {&rScroll, &gScroll, &bScroll};
-    return *scrolls[channel];
+    static QScrollBar* ZelColorDlg::*const scrolls[channelCount] = {
+        &ZelColorDlg::rScroll, &ZelColorDlg::gScroll, &ZelColorDlg::bScroll};
+    return this->*scrolls[channel];
 }
 
 // The three columns are as wide as the widest caption.

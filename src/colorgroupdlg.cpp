@@ -99,11 +99,13 @@ ZelColorGroupDlg::~ZelColorGroupDlg() {}
 // The swatches' members in the order of the rows.
 ZelFrame*& ZelColorGroupDlg::swatch(int row)
 {
-    ZelFrame** const swatches[rowCount] = {
-        &foregroundColorEdit, &backgroundColorEdit,     &lightColorEdit, &darkColorEdit,
-        &midColorEdit,        &textColorEdit,           &baseColorEdit,  &shadowColorEdit,
-        &highlightColorEdit,  &highlightedTextColorEdit};
-    return *swatches[row];
+    static ZelFrame* ZelColorGroupDlg::*const swatches[rowCount] = {
+        &ZelColorGroupDlg::foregroundColorEdit, &ZelColorGroupDlg::backgroundColorEdit,
+        &ZelColorGroupDlg::lightColorEdit,      &ZelColorGroupDlg::darkColorEdit,
+        &ZelColorGroupDlg::midColorEdit,        &ZelColorGroupDlg::textColorEdit,
+        &ZelColorGroupDlg::baseColorEdit,       &ZelColorGroupDlg::shadowColorEdit,
+        &ZelColorGroupDlg::highlightColorEdit,  &ZelColorGroupDlg::highlightedTextColorEdit};
+    return this->*swatches[row];
 }
 
 void ZelColorGroupDlg::addCaptions(int first, int last)

@@ -5,10 +5,8 @@
 #include <qwidget.h>
 
 // The bits of a clickable widget's state.
-enum {
-    HoverState = 1, // the pointer is over the widget
-    PressState = 2  // the left button went down on the widget and is still held
-};
+const unsigned int HoverState = 1; // the pointer is over the widget
+const unsigned int PressState = 2; // the left button went down on the widget and is still held
 
 // True for every position from (0, 0) to the widget's last pixel.
 inline bool insideWidget(const QWidget* widget, const QPoint& position)

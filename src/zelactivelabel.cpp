@@ -6,8 +6,8 @@
 #include <qdrawutil.h>
 #include <qpainter.h>
 
-ZelActiveLabel::ZelActiveLabel(const char* text, QWidget* parent, const char* name)
-    : QWidget(parent, name, 0), text(text)
+ZelActiveLabel::ZelActiveLabel(const char* firstText, QWidget* parent, const char* name)
+    : QWidget(parent, name, 0), text(firstText)
 {
     init(parent);
 }

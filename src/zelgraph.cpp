@@ -93,7 +93,7 @@ void ZelGraph::resizeEvent(QResizeEvent* event)
     capacity = writePos = count = 0;
     const int columns = contentsRect().width();
     if (columns > 0)
-        history = new (std::nothrow) double[columns];
+        history = new (std::nothrow) double[(unsigned int)columns];
     if (history)
         capacity = columns;
     flatten();
@@ -171,7 +171,7 @@ void ZelGraph::drawGrid(QPainter& painter, const QRect& area) const
     const int rows = step > 0 ? area.bottom() / step : 0;
     const int columns = vGridStep > 0 ? (area.width() - 1) / vGridStep : 0;
     QPointArray ends(2 * (rows + columns));
-    int end = 0;
+    unsigned int end = 0;
     for (int i = 1; i <= rows; ++i) {
         const int y = area.bottom() - i * step;
         ends.setPoint(end++, area.left(), y);
@@ -195,7 +195,7 @@ int ZelGraph::rowAt(int slot, const QRect& area) const
 void ZelGraph::drawHistory(QPainter& painter, const QRect& area) const
 {
     QPointArray ends(2 * area.width());
-    int lines = 0;
+    unsigned int lines = 0;
     int slot = writePos + 1 < capacity ? writePos + 1 : 0;
     int previous = rowAt(slot, area);
     for (int x = area.left(); x <= area.right(); ++x) {
@@ -212,7 +212,7 @@ void ZelGraph::drawHistory(QPainter& painter, const QRect& area) const
         previous = row;
     }
     painter.setPen(graphColor);
-    painter.drawLineSegments(ends, 0, lines);
+    painter.drawLineSegments(ends, 0, (int)lines);
 }
 
 void ZelGraph::mousePressEvent(QMouseEvent* event)

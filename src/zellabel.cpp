@@ -6,15 +6,15 @@
 #include <qguardedptr.h>
 #include <qpainter.h>
 
-ZelLabel::ZelLabel(const QString& text, QWidget* parent, const char* name, bool active, WFlags flags)
-    : QLabel(text, parent, name, flags), active(active), on(false), hoverColor(0, 0, 240),
+ZelLabel::ZelLabel(const QString& text, QWidget* parent, const char* name, bool reacts, WFlags flags)
+    : QLabel(text, parent, name, flags), active(reacts), on(false), hoverColor(0, 0, 240),
       normalColor(0, 0, 0), currentColor(&normalColor)
 {
 }
 
 // The hover colour is a little darker than the other constructor's.
-ZelLabel::ZelLabel(const char* text, QWidget* parent, const char* name, bool active, WFlags flags)
-    : QLabel(QString(text), parent, name, flags), active(active), on(false), hoverColor(0, 0, 200),
+ZelLabel::ZelLabel(const char* text, QWidget* parent, const char* name, bool reacts, WFlags flags)
+    : QLabel(QString(text), parent, name, flags), active(reacts), on(false), hoverColor(0, 0, 200),
       normalColor(0, 0, 0), currentColor(&normalColor)
 {
 }

@@ -3,8 +3,8 @@
 #include <qbrush.h>
 #include <qpainter.h>
 
-ZelPushButton::ZelPushButton(const QColor& color, QWidget* parent, const char* name)
-    : QPushButton(parent, name), color(color)
+ZelPushButton::ZelPushButton(const QColor& shown, QWidget* parent, const char* name)
+    : QPushButton(parent, name), color(shown)
 {
 }
 

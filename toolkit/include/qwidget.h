@@ -225,7 +225,7 @@ public:
 
     //! Clear the background.
     void erase();
-    void erase(int x, int y, int w, int h) { erase(QRegion(x, y, w, h)); }
+    void erase(int x, int y, int width, int height) { erase(QRegion(x, y, width, height)); }
     void erase(const QRect& rect) { erase(QRegion(rect)); }
     void erase(const QRegion& region);
     void scroll(int dx, int dy);
