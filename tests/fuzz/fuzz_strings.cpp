@@ -29,7 +29,7 @@ void numbers(const QString& s)
     bool ok = false;
     const int base = 2 + static_cast<int>(s.length() % 35);
     const int value = s.toInt(&ok, base);
-    if (ok)
+    if (ok && (value >= 0 || base == 10)) // negative ones are not written in other bases
         check(QString::number(value, base).toInt(&ok, base) == value && ok);
     s.toUInt(&ok, base);
     s.toShort(&ok);
