@@ -1,6 +1,8 @@
 // The main program of every test: one QApplication with a fixed font, the pointer parked in a corner, and
-// every message of the toolkit recorded.
+// every message of the toolkit recorded. With TEST_MANAGED in the environment a window manager runs all the
+// time.
 #include "messages.h"
+#include "windowmanager.h"
 #include "xinput.h"
 
 #include <gtest/gtest.h>
@@ -9,6 +11,7 @@
 
 #include <clocale>
 #include <cstdlib>
+#include <memory>
 
 namespace
 {
@@ -40,7 +43,9 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     QApplication::setFont(QFont("DejaVu Sans", 10), true);
     testing::UnitTest::GetInstance()->listeners().Append(new FreshStart);
+    std::unique_ptr<WindowManager> manager(std::getenv("TEST_MANAGED") ? new WindowManager : nullptr);
     const int result = RUN_ALL_TESTS();
+    manager.reset();
     xinput::disconnect();
     return result;
 }

@@ -190,7 +190,7 @@ TEST(DialogKeys, OthersAreLeftAlone)
     EXPECT_TRUE(enter.isAccepted());
 }
 
-TEST(DialogPlace, IsOverItsParentUnlessPlaced)
+TEST(DialogPlaceUnmanaged, IsOverItsParentUnlessPlaced)
 {
     QWidget window;
     window.setGeometry(200, 200, 300, 200);
@@ -249,7 +249,8 @@ TEST(DialogGrip, ResizesWithTheMouse)
     xinput::moveTo(&dialog, 145, 75);
     xinput::pressButton();
     settle();
-    xinput::moveToRoot(100 + 165, 100 + 105);
+    const QPoint farther = dialog.mapToGlobal(QPoint(165, 105));
+    xinput::moveToRoot(farther.x(), farther.y());
     EXPECT_TRUE(waitFor([&] { return dialog.size() == QSize(170, 110); }));
     xinput::releaseButton();
     settle();
