@@ -50,10 +50,11 @@ TEST_F(ManagedDialog, OpensOverTheMiddleOfItsWindow)
     QDialog dialog(&window, "dialog");
     dialog.resize(120, 80);
     showAndActivate(&dialog);
+    EXPECT_TRUE(waitFor([&] { return dialog.frameGeometry().height() > dialog.height(); }))
+        << "it has a frame";
     const QPoint away = middleOf(dialog) - middleOf(window);
     EXPECT_LE(std::abs(away.x()), 20);
     EXPECT_LE(std::abs(away.y()), 20);
-    EXPECT_TRUE(dialog.frameGeometry().height() > dialog.height()) << "it has a frame";
 }
 
 TEST_F(ManagedDialog, ClosedInItsFrameItIsRejected)
