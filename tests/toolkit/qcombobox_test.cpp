@@ -8,10 +8,12 @@
 #include <gtest/gtest.h>
 #include <qapplication.h>
 #include <qcombobox.h>
+#include <qevent.h>
 #include <qfontmetrics.h>
 #include <qlineedit.h>
 #include <qlistbox.h>
 #include <qstringlist.h>
+#include <qvalidator.h>
 
 #include <X11/keysym.h>
 
@@ -283,6 +285,81 @@ TEST_P(EditableComboBox, TypingIsCompletedOnWish)
     xinput::typeText("h");
     settle();
     EXPECT_EQ(combo.lineEdit()->selectedText(), QString("ree"));
+}
+
+TEST_P(ComboBox, OtherKeysAreLeftToOthers)
+{
+    combo.setInsertionPolicy(QComboBox::NoInsertion); // else Return adds the text
+    QWidget* receiver =
+        combo.lineEdit() ? static_cast<QWidget*>(combo.lineEdit()) : static_cast<QWidget*>(&combo);
+    for (const int key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter, Qt::Key_F1, Qt::Key_F5,
+                          Qt::Key_Prior, Qt::Key_Next, Qt::Key_Insert}) {
+        QKeyEvent event(QEvent::KeyPress, key, 0, 0);
+        QApplication::sendEvent(receiver, &event);
+        EXPECT_FALSE(event.isAccepted()) << key;
+    }
+    EXPECT_EQ(combo.currentItem(), 0);
+}
+
+TEST_P(ComboBox, ADisabledOneIsDeaf)
+{
+    combo.setEnabled(false);
+    xinput::click(&combo, 115, 14);
+    xinput::pressButton(5);
+    xinput::releaseButton(5);
+    EXPECT_EQ(heard(), "");
+    EXPECT_FALSE(isOpen());
+    EXPECT_EQ(combo.currentItem(), 0);
+}
+
+TEST_P(ComboBox, AnEmptyOneDoesNotOpenOrChoose)
+{
+    combo.clear();
+    heard();
+    xinput::click(&combo, 115, 14);
+    xinput::typeKey(XK_Down);
+    xinput::pressButton(5);
+    xinput::releaseButton(5);
+    EXPECT_EQ(heard(), "");
+    EXPECT_FALSE(isOpen());
+}
+
+TEST_P(ComboBox, MayBecomeEditableAndBack)
+{
+    for (int i = 0; i < 2; ++i) {
+        combo.setEditable(!combo.editable());
+        settle();
+        EXPECT_EQ(combo.lineEdit() != nullptr, combo.editable());
+        EXPECT_EQ(combo.currentText(), QString("One"));
+        combo.setFocus();
+        xinput::typeKey(XK_Down);
+        settle();
+        EXPECT_EQ(combo.currentText(), QString("Two"));
+        combo.setCurrentItem(0);
+    }
+}
+
+TEST_P(EditableComboBox, TheUserMayAddUpToItsMaximum)
+{
+    combo.setMaxCount(5);
+    for (const char* text : {"five", "six"}) {
+        combo.setEditText(text);
+        xinput::typeKey(XK_Return);
+        settle();
+        EXPECT_EQ(combo.count(), 5);
+        EXPECT_EQ(combo.text(4), QString(text)) << "the last one makes room";
+    }
+}
+
+TEST_P(EditableComboBox, AValidatorKeepsTextsOut)
+{
+    const QIntValidator validator(0, 99, nullptr);
+    combo.setValidator(&validator);
+    combo.clearEdit();
+    xinput::typeText("a4b2c7");
+    settle();
+    EXPECT_EQ(combo.currentText(), QString("42"));
+    combo.clearValidator();
 }
 
 TEST_P(ComboBox, WantsRoomForItsWidestEntry)

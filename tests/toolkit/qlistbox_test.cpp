@@ -187,6 +187,92 @@ TEST_F(ListBox, TheSelectedEntryIsBlackWithAFrameInside)
     EXPECT_EQ(shown.at(100, 2 * y), 0xffffffu) << "the next one is not selected";
 }
 
+TEST_F(ListBox, PagesMoveByWhatIsSeen)
+{
+    list.setCurrentItem(0);
+    heard();
+    const int page = list.numItemsVisible();
+    ASSERT_GT(page, 1);
+    xinput::typeKey(XK_Next);
+    settle();
+    EXPECT_EQ(list.currentItem(), page);
+    xinput::typeKey(XK_Prior);
+    settle();
+    EXPECT_EQ(list.currentItem(), 0);
+    xinput::typeKey(XK_Up);
+    EXPECT_EQ(heard(),
+              "selectionChanged highlighted(" + std::to_string(page) + ") selectionChanged highlighted(0)")
+        << "above the first there is none";
+}
+
+TEST_F(ListBox, TheWheelScrollsWithoutChoosing)
+{
+    list.setCurrentItem(1);
+    heard();
+    xinput::moveTo(list.viewport(), 20, 20);
+    xinput::pressButton(5);
+    xinput::releaseButton(5);
+    EXPECT_EQ(heard(), "");
+    EXPECT_GT(list.topItem(), 0);
+    EXPECT_EQ(list.currentItem(), 1);
+    xinput::pressButton(4);
+    xinput::releaseButton(4);
+    settle();
+    EXPECT_EQ(list.topItem(), 0);
+}
+
+TEST_F(ListBox, ADragBelowItScrolls)
+{
+    xinput::moveTo(list.viewport(), 20, 10);
+    xinput::pressButton();
+    settle();
+    for (int y = 115; y < 140; y += 3) {
+        xinput::moveTo(list.viewport(), 20, y);
+        settle();
+    }
+    xinput::releaseButton();
+    settle();
+    EXPECT_GT(list.currentItem(), 5);
+    EXPECT_GT(list.topItem(), 0);
+    EXPECT_TRUE(list.itemVisible(list.currentItem()));
+}
+
+TEST_F(ListBox, InMultiModeClicksAndSpaceToggle)
+{
+    list.setSelectionMode(QListBox::Multi);
+    const int height = list.itemHeight();
+    for (const int entry : {1, 3})
+        xinput::click(list.viewport(), 20, entry * height + 5);
+    settle();
+    EXPECT_TRUE(list.isSelected(1) && list.isSelected(3) && !list.isSelected(2));
+    xinput::click(list.viewport(), 30, height + 5);
+    settle();
+    EXPECT_FALSE(list.isSelected(1));
+    xinput::typeKey(XK_Down);
+    xinput::typeKey(XK_space);
+    settle();
+    EXPECT_TRUE(list.isSelected(2));
+    EXPECT_TRUE(list.isSelected(3)) << "the others stay";
+}
+
+TEST_F(ListBox, WithoutASelectionEntriesAreOnlyCurrent)
+{
+    list.setSelectionMode(QListBox::NoSelection);
+    xinput::click(list.viewport(), 20, 2 * list.itemHeight() + 5);
+    EXPECT_EQ(heard(), "highlighted(2)");
+    EXPECT_FALSE(list.isSelected(2));
+}
+
+TEST_F(ListBox, ADisabledOneIsDeaf)
+{
+    list.setCurrentItem(0);
+    heard();
+    list.setEnabled(false);
+    xinput::click(list.viewport(), 20, 50);
+    EXPECT_EQ(heard(), "");
+    EXPECT_EQ(list.currentItem(), 0);
+}
+
 TEST(ListBoxItems, BelongToOneListAtATime)
 {
     QListBox first, second;
