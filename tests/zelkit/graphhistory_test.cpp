@@ -1,5 +1,6 @@
 // ZelGraph: the samples that it keeps, one for each column.
 #include "graphpair.h"
+#include "messages.h"
 
 #include <gtest/gtest.h>
 
@@ -195,6 +196,23 @@ TEST(GraphHistory, WithoutRoomNothingIsKeptAndNothingFails)
     pair.resize(101, 100);
     feed(pair, 10);
     EXPECT_EQ(pair.difference(), "");
+}
+
+TEST(GraphHistory, WithoutRoomInOneDirectionNothingIsSaid)
+{
+    GraphPair pair;
+    pair.graph.setLineWidth(20);
+    const struct {
+        int width, height;
+    } sizes[] = {{40, 90}, {41, 40}, {90, 40}, {40, 40}, {39, 90}, {90, 39}, {30, 30}};
+    for (const auto& size : sizes) {
+        pair.graph.resize(size.width, size.height);
+        settle();
+        for (int i = 0; i < 4; ++i)
+            pair.graph.setValue(i);
+        pair.graph.repaint(true);
+        EXPECT_EQ(takeMessages(), "") << size.width << "x" << size.height;
+    }
 }
 
 TEST(GraphHistory, AGraphMayNeverBeShown)

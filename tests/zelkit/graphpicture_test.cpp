@@ -88,6 +88,9 @@ TEST(GraphPicture, GridsOfEveryKind)
         {-1, 198, "| 199"},
         {-1, 199, "|"},
         {-1, INT_MAX, "|"},
+        {-1, 0, "|"},
+        {-1, -2, "|"},
+        {-1, INT_MIN, "|"},
     };
     for (const auto& grid : grids) {
         pair.setGraphParameters(0, 5, grid.count, grid.step);
@@ -212,12 +215,22 @@ TEST(GraphPicture, TinyGraphs)
                 pair.setValue(5 - i % 6);
             EXPECT_EQ(pair.difference(), "") << width << "x" << height;
             pair.setFrame(QFrame::NoFrame, 0);
-            pair.resize(width + 1, height);
+            pair.graph.resize(width, height + 1);
+            pair.resize(width, height);
             for (int i = 0; i < 9; ++i) {
                 pair.setValue(5 - i % 6);
-                EXPECT_EQ(pair.difference(), "") << width + 1 << "x" << height << " after " << i + 1;
+                EXPECT_EQ(pair.difference(), "") << width << "x" << height << " after " << i + 1;
             }
         }
+}
+
+TEST(GraphPicture, ItsFrameGrowsWithIt)
+{
+    GraphPair pair;
+    pair.graph.setFrameRect(QRect(5, 6, 100, 60));
+    pair.graph.resize(pair.graph.width() + 10, pair.graph.height() + 20);
+    settle();
+    EXPECT_EQ(pair.graph.frameRect(), QRect(5, 6, 110, 80));
 }
 
 TEST(GraphPicture, ThousandsOfColumns)

@@ -241,6 +241,9 @@ TEST_F(GraphReadout, WithoutItNothingIsEverShown)
     ZelGraph plain(&pair.window, "plain");
     plain.setGeometry(300, 10, 202, 102);
     plain.show();
+    plain.setValue(2);
+    plain.setValue(2);
+    EXPECT_EQ(Pixels::now(&plain).part(200, 1, 1, 100).count(0x0000dc), 1) << "a curve, no bars";
     settle();
     const Pixels before = Pixels::now(&plain);
     press(&plain, 30, 50);
