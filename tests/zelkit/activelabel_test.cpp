@@ -14,6 +14,9 @@
 #include <qpixmap.h>
 #include <qstrlist.h>
 
+#include <algorithm>
+#include <new>
+
 namespace
 {
 
@@ -393,6 +396,39 @@ TEST_F(ActiveLabel, TheFourOrientations)
         label->setTextTop(textTop);
         EXPECT_EQ(Pixels::of(label).differenceFrom(model(false, false, textTop, alignment, "LLLL")), "")
             << "orientation " << textTop;
+    }
+}
+
+// Not square, and the text at the far edges: width and height have their places.
+TEST_F(ActiveLabel, TheFourOrientationsOfLongLabels)
+{
+    const int alignments[] = {Qt::AlignRight | Qt::AlignBottom, Qt::AlignCenter};
+    for (const QSize& size : {QSize(90, 31), QSize(31, 90), QSize(91, 40)}) {
+        show("Long", size.width(), size.height());
+        for (const int alignment : alignments) {
+            label->setAlignment(alignment);
+            for (int textTop = 0; textTop < 4; ++textTop) {
+                label->setTextTop(textTop);
+                EXPECT_EQ(Pixels::of(label).differenceFrom(model(false, false, textTop, alignment, "Long")),
+                          "")
+                    << "orientation " << textTop << " of " << size.width() << "x" << size.height();
+            }
+        }
+    }
+}
+
+TEST_F(ActiveLabel, ANewLabelIsUprightWhateverWasInItsMemory)
+{
+    alignas(ZelActiveLabel) static unsigned memory[(sizeof(ZelActiveLabel) + 3) / 4];
+    for (const unsigned rest : {1U, 2U, 3U}) {
+        std::fill(std::begin(memory), std::end(memory), rest);
+        ZelActiveLabel* const fresh = new (memory) ZelActiveLabel("Mxg", &window, "fresh");
+        fresh->setGeometry(20, 80, 80, 40);
+        fresh->show();
+        EXPECT_EQ(
+            Pixels::of(fresh).differenceFrom(model(false, false, 0, Qt::AlignLeft | Qt::AlignVCenter, "Mxg")),
+            "");
+        fresh->~ZelActiveLabel();
     }
 }
 
