@@ -2,6 +2,7 @@
 #include <zelcombobox.h>
 
 #include "keytwins.h"
+#include "pixels.h"
 #include "sentevents.h"
 #include "signalrecorder.h"
 #include "waiting.h"
@@ -160,6 +161,22 @@ TEST_P(ComboBox, LosingTheFocusIsTold)
     xinput::typeKey(XK_Tab);
     EXPECT_EQ(heard(), "focusOut");
     EXPECT_TRUE(button.hasFocus());
+}
+
+TEST_P(ComboBox, TheFocusFrameGoesWithTheFocus)
+{
+    showAndActivate(&window);
+    button.setFocus();
+    settle();
+    const Pixels without = Pixels::now(box.get());
+    box->setFocus();
+    settle();
+    const Pixels with = Pixels::now(box.get());
+    if (GetParam() != Kind::Editable) {
+        EXPECT_NE(with, without);
+    }
+    button.setFocus();
+    EXPECT_EQ(Pixels::now(box.get()).differenceFrom(without), "");
 }
 
 TEST_P(ComboBox, LosingTheFocusToItsOwnListIsNoLeaving)
