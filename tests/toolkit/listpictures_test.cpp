@@ -75,7 +75,8 @@ TEST(ListBoxItems, ComeFromListsOfTexts)
     bytes.append("b1");
     bytes.append("b2");
     QStringList texts;
-    texts << "t1" << "t2";
+    texts << "t1"
+          << "t2";
     const char* plain[] = {"p1", "p2", "p3", nullptr};
     QListBox box(nullptr, "box");
     box.insertStrList(bytes);

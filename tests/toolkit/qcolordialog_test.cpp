@@ -184,6 +184,17 @@ TEST(ColorDialog, ThePickersChangeWhatTheyShow)
     EXPECT_EQ(Qt::black, chosen);
 }
 
+TEST(ColorDialog, ProgramsChooseTheStandardColours)
+{
+    QColorDialog::setStandardColor(0, qRgb(17, 34, 51));
+    EXPECT_EQ(QColor(17, 34, 51), choose([](QWidget* dialog) {
+                  xinput::click(colorGrid(dialog), 14, 12);
+                  settle();
+                  clickButton(dialog, "OK");
+              }));
+    QColorDialog::setStandardColor(0, qRgb(0, 0, 0));
+}
+
 TEST(ColorDialog, KeepsCustomColours)
 {
     ASSERT_EQ(16, QColorDialog::customCount());

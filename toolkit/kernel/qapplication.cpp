@@ -100,8 +100,10 @@ QApplication::QApplication(int& argc, char** argv, Type type) : QObject(nullptr,
 
 void QApplication::construct(int& argc, char** argv, Type type)
 {
-    if (qApp)
+    if (qApp) {
         qFatal("QApplication: there should be only one application object");
+        std::exit(1); // a message handler returns
+    }
     const char* program = argc > 0 && argv[0] ? baseName(argv[0]) : "program";
     setName(program);
     const std::string display = readCommandLine(&argc, argv);

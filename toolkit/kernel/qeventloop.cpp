@@ -10,6 +10,7 @@
 #include <qdatetime.h>
 
 #include <cerrno>
+#include <cstdlib>
 #include <fcntl.h>
 #include <poll.h>
 #include <unistd.h>
@@ -32,8 +33,10 @@ struct EventLoopState {
 QEventLoop::QEventLoop(QObject* parent, const char* name)
     : QObject(parent, name), d(new zeltk::EventLoopState)
 {
-    if (pipe2(d->wakeUpPipe, O_NONBLOCK | O_CLOEXEC) != 0)
+    if (pipe2(d->wakeUpPipe, O_NONBLOCK | O_CLOEXEC) != 0) {
         qFatal("QEventLoop: no pipe can be made");
+        std::exit(1); // a message handler returns
+    }
 }
 
 QEventLoop::~QEventLoop()

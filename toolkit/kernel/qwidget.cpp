@@ -13,6 +13,7 @@
 #include <qobjectlist.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <map>
 
 using zeltk::WidgetData;
@@ -155,8 +156,10 @@ void unmakeWindow(QWidget* widget)
 QWidget::QWidget(QWidget* parent, const char* name, WFlags f)
     : QObject(parent, name), QPaintDevice(WidgetDevice), w(nullptr)
 {
-    if (!qApp || qApp->type() == QApplication::Tty)
+    if (!qApp || qApp->type() == QApplication::Tty) {
         qFatal("QWidget: a QApplication with windows is needed before any widget");
+        std::exit(1); // a message handler returns
+    }
     w = new WidgetData;
     zeltk::dataOf(static_cast<QObject*>(this))->isWidget = true;
     w->flags = completed(f, parent);

@@ -55,5 +55,6 @@ void qFatal(const char* format, ...)
     va_start(arguments, format);
     deliver(QtFatalMsg, format, arguments);
     va_end(arguments);
-    std::exit(1);
+    if (!messageHandler)
+        std::exit(1);
 }

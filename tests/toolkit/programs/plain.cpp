@@ -46,7 +46,7 @@ int main(int argc, char** argv)
         return runOnConsole(argc, argv, !std::strcmp(argv[1], "--window"));
     if (argc > 1 && !std::strcmp(argv[1], "--texts"))
         return showTexts(argc, argv);
-    QApplication application(argc, argv);
+    QApplication application(argc, argv, QApplication::GuiClient);
     QWidget window;
     application.setMainWidget(&window);
     window.setGeometry(10, 10, 40, 40);
