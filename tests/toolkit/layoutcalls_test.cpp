@@ -100,6 +100,9 @@ TEST(LayoutCalls, TellWhatTheyAre)
     QBoxLayout* inner = new QBoxLayout(layout, QBoxLayout::LeftToRight, 7, "inner");
     EXPECT_FALSE(inner->isTopLevel());
     EXPECT_EQ(7, inner->spacing());
+    const QBoxLayout lonely(QBoxLayout::RightToLeft, 6, "lonely");
+    EXPECT_EQ(QBoxLayout::RightToLeft, lonely.direction());
+    EXPECT_EQ(6, lonely.spacing());
 }
 
 TEST(LayoutCalls, AddUpSizes)

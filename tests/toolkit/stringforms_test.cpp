@@ -132,6 +132,8 @@ TEST(CharRefs, ChangeAndTellTheirString)
     string[4] = static_cast<ushort>(0x45);
     string[5] = string[0];
     EXPECT_EQ("ABCDEA", text(string));
+    const QChar letter = string[1];
+    EXPECT_EQ(QChar('B'), letter);
 
     QString kinds("7a ,");
     kinds += QChar(0x0301);
