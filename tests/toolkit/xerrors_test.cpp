@@ -18,9 +18,13 @@ TEST(XErrors, EachIsReportedOnceWithItsRequest)
     XDestroyWindow(xinput::display(), widget.winId());
     xinput::sync();
     takeMessages();
+    testing::internal::CaptureStderr();
     widget.setMask(QRegion(0, 0, 5, 5));
     widget.move(20, 20);
     QApplication::syncX();
+    const std::string names = testing::internal::GetCapturedStderr();
+    EXPECT_NE(std::string::npos, names.find("Request:       X_ConfigureWindow\n")) << names;
+    EXPECT_NE(std::string::npos, names.find("Request:       X_ShapeRectangles\n")) << names;
     const std::string text = takeMessages();
     EXPECT_NE(std::string::npos, text.find("X Error: BadWindow (invalid Window parameter) 3\n")) << text;
     const std::string configure = "  Major opcode:  12\n  Minor opcode:  0\n  Resource id:  0x";

@@ -6,6 +6,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <string>
 #include <unistd.h>
 
 namespace zeltk
@@ -18,6 +19,42 @@ namespace
 
 ErrorHandler handler = nullptr;
 
+// The name of the extension with that code, asked over another connection: the one that had the error cannot
+// be asked in the midst of it.
+std::string extensionName(int code)
+{
+    Display* const asked = XOpenDisplay(displayName().c_str());
+    if (!asked)
+        return std::string();
+    std::string found;
+    int count = 0;
+    char** const names = XListExtensions(asked, &count);
+    for (int i = 0; i < count && found.empty(); ++i) {
+        int itsCode, event, error;
+        if (XQueryExtension(asked, names[i], &itsCode, &event, &error) && itsCode == code)
+            found = names[i];
+    }
+    XFreeExtensionList(names);
+    XCloseDisplay(asked);
+    return found;
+}
+
+// As Xlib's table of texts has it: "X_ConfigureWindow", "X_ShapeRectangles".
+std::string requestName(Display* server, const XErrorEvent* error)
+{
+    const int firstExtension = 128;
+    std::string code = std::to_string(error->request_code);
+    if (error->request_code >= firstExtension) {
+        const std::string extension = extensionName(error->request_code);
+        code = (extension.empty() ? code : extension) + "." + std::to_string(error->minor_code);
+    }
+    char name[128];
+    XGetErrorDatabaseText(server, "XRequest", code.c_str(), code.c_str(), name, sizeof name);
+    return name;
+}
+
+// Qt's own words go to the program's message handler; the name of the request, which they lack, goes beside
+// them.
 int reportError(Display* server, XErrorEvent* error)
 {
     char description[128];
@@ -30,6 +67,7 @@ int reportError(Display* server, XErrorEvent* error)
         handler(text);
     else
         std::fprintf(stderr, "%s\n", text);
+    std::fprintf(stderr, "  Request:       %s\n", requestName(server, error).c_str());
     return 0;
 }
 
