@@ -54,6 +54,13 @@ Channels averaged(const Channels& from, const QSize& size, const QSize& wanted)
     return result;
 }
 
+// Which pixel of `count` stands at a place of the scaled image. Quotients that are whole numbers but for
+// their last digit count as such on every processor.
+int sourceOf(int place, double factor, int count)
+{
+    return std::min(static_cast<int>(place / factor + 1e-9), count - 1);
+}
+
 // The nearest pixels, for a size and factors of its own.
 QImage enlarged(const QImage& image, const QSize& size, double across, double down)
 {
@@ -61,9 +68,8 @@ QImage enlarged(const QImage& image, const QSize& size, double across, double do
     result.setAlphaBuffer(image.hasAlphaBuffer());
     for (int y = 0; y < result.height(); ++y)
         for (int x = 0; x < result.width(); ++x)
-            result.setPixel(x, y,
-                            image.pixel(std::min(static_cast<int>(x / across), image.width() - 1),
-                                        std::min(static_cast<int>(y / down), image.height() - 1)));
+            result.setPixel(
+                x, y, image.pixel(sourceOf(x, across, image.width()), sourceOf(y, down, image.height())));
     return result;
 }
 
