@@ -219,3 +219,21 @@ TEST(HostileSender, EventsAndPropertiesOfAnyKindDoNoHarm)
     xinput::click(&button, 10, 10);
     EXPECT_TRUE(waitFor([&] { return recorder.count() > 0; }));
 }
+
+// Writing to the lost connection comes before anything is read from it.
+TEST(LostConnectionDeathTest, WhoOnlyWritesIsToldToo)
+{
+    testing::FLAGS_gtest_death_test_style = "threadsafe";
+    EXPECT_EXIT(
+        {
+            QWidget window(nullptr, "window");
+            settle();
+            XKillClient(xinput::display(), window.winId());
+            XSync(xinput::display(), False);
+            for (int i = 0; i < 100000; ++i) {
+                window.move(i % 100, 0);
+                QApplication::flushX();
+            }
+        },
+        testing::ExitedWithCode(1), "^The connection to the X server :[0-9]+ is lost\\.\n$");
+}

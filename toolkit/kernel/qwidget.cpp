@@ -175,6 +175,7 @@ QWidget::QWidget(QWidget* parent, const char* name, WFlags f)
 
 QWidget::~QWidget()
 {
+    w->dying = true;
     if (hasFocus())
         clearFocus();
     if (isVisible() && !isDesktop())

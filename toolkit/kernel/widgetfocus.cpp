@@ -46,8 +46,12 @@ void sendFocus(QWidget* widget, QEvent::Type type, QFocusEvent::Reason reason)
 namespace zeltk
 {
 
+// Nobody who is about to die with a parent comes back.
 void joinTabOrder(QWidget* widget)
 {
+    for (const QWidget* each = widget; each; each = each->parentWidget(true))
+        if (dataOf(each)->dying)
+            return;
     std::vector<QWidget*>& order = dataOf(widget->topLevelWidget())->tabOrder;
     if (widget->focusPolicy() != QWidget::NoFocus &&
         std::find(order.begin(), order.end(), widget) == order.end())

@@ -4,8 +4,10 @@
 #include "x11/connection.h"
 #include "x11/xlib.h"
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <poll.h>
 #include <string>
 #include <unistd.h>
 
@@ -79,12 +81,31 @@ int reportLoss(Display*)
     _exit(1);
 }
 
+// Writing to a lost connection brings this signal first. Other broken pipes end the program as ever.
+void onBrokenPipe(int)
+{
+    pollfd server = {connectionFd(), POLLIN, 0};
+    if (connected() && poll(&server, 1, 0) > 0 && (server.revents & (POLLHUP | POLLERR)))
+        reportLoss(nullptr);
+    std::signal(SIGPIPE, SIG_DFL);
+    std::raise(SIGPIPE);
+}
+
+// A program's own handler stays.
+void watchBrokenPipes()
+{
+    struct sigaction now;
+    if (sigaction(SIGPIPE, nullptr, &now) == 0 && now.sa_handler == SIG_DFL)
+        std::signal(SIGPIPE, onBrokenPipe);
+}
+
 } // namespace
 
 void watchErrors()
 {
     XSetErrorHandler(reportError);
     XSetIOErrorHandler(reportLoss);
+    watchBrokenPipes();
 }
 
 void setErrorHandler(ErrorHandler h)
