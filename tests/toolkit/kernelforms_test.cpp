@@ -95,7 +95,7 @@ TEST(EventForms, TellWhatHappened)
 TEST(EventForms, AreHandedOnByHand)
 {
     QObject object(nullptr, "object");
-    QEvent event(QEvent::User);
+    QCustomEvent event(QEvent::User);
     EXPECT_FALSE(object.eventFilter(&object, &event));
     EXPECT_TRUE(qApp->notify(&object, &event)) << "a custom event";
     QComboBox box(true, nullptr, "box");
