@@ -195,6 +195,17 @@ TEST_F(Focus, AProxyThatDiesTakesItsOwnOutOfTheTabOrder)
     }
 }
 
+TEST_F(Focus, TwoWithTheSameProxyHaveNoOrder)
+{
+    a.setFocusProxy(&inner);
+    b.setFocusProxy(&inner);
+    QWidget::setTabOrder(&a, &b);
+    inner.setFocus();
+    xinput::typeKey(XK_Tab);
+    settle();
+    EXPECT_EQ(&inner, qApp->focusWidget()) << "the only one that takes Tab";
+}
+
 TEST_F(Focus, NobodyIsAProxyOfItself)
 {
     a.setFocusProxy(&b);

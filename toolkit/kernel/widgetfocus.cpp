@@ -309,7 +309,7 @@ void QWidget::setTabOrder(QWidget* first, QWidget* second)
     while (dataOf(second)->focusProxy)
         second = dataOf(second)->focusProxy;
     std::vector<QWidget*>& order = dataOf(first->topLevelWidget())->tabOrder;
-    if (std::find(order.begin(), order.end(), first) == order.end() ||
+    if (first == second || std::find(order.begin(), order.end(), first) == order.end() ||
         std::find(order.begin(), order.end(), second) == order.end())
         return;
     removeFrom(&order, second);
