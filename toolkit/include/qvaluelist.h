@@ -171,11 +171,19 @@ protected:
     }
 
 private:
+// GCC takes the count of a list that has another owner for one that was deleted.
+#if defined(__GNUC__) && !defined(__clang__) && __GNUC__ >= 12
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wuse-after-free"
+#endif
     void release()
     {
         if (--d->references == 0)
             delete d;
     }
+#if defined(__GNUC__) && !defined(__clang__) && __GNUC__ >= 12
+#pragma GCC diagnostic pop
+#endif
 
     Shared* d;
 };
