@@ -52,7 +52,7 @@ struct WidgetData {
 
     QWidget::FocusPolicy focusPolicy = QWidget::NoFocus;
     QWidget* focusProxy = nullptr;
-    bool dying = false; // its destructor runs
+    bool dying = false;             // its destructor runs
     bool isFocusProxy = false;      // of another widget
     std::vector<QWidget*> tabOrder; // of a window
     QWidget* focus = nullptr;       // in a window, also while it is not active
