@@ -1,7 +1,9 @@
 // Moved, scaled and turned coordinates.
+#include "messages.h"
 #include "sheet.h"
 
 #include <gtest/gtest.h>
+#include <qapplication.h>
 
 TEST(PainterTransform, MovesWhatIsDrawn)
 {
@@ -33,6 +35,20 @@ TEST(PainterTransform, IsUndoneByResetAndRestore)
     sheet.painter.resetXForm();
     sheet.painter.drawPoint(0, 0);
     EXPECT_EQ("\n#....\n", sheet.drawing());
+}
+
+TEST(PainterTransform, APictureThatBecomesTooLargeIsNotDrawn)
+{
+    Sheet sheet(5, 1);
+    QPixmap picture(2, 2);
+    picture.fill(Qt::black);
+    sheet.painter.save();
+    sheet.painter.scale(50000, 1);
+    sheet.painter.drawPixmap(0, 0, picture);
+    sheet.painter.restore();
+    QApplication::syncX();
+    EXPECT_EQ("", takeMessages());
+    EXPECT_EQ("\n.....\n", sheet.drawing());
 }
 
 TEST(PainterTransform, ScalesPositions)

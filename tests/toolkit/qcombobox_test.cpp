@@ -102,6 +102,16 @@ TEST_P(ComboBox, InsertsAndRemovesEntries)
     EXPECT_TRUE(combo.currentText().isEmpty());
 }
 
+TEST_P(ComboBox, TheCurrentEntryIsNeverBehindTheEnd)
+{
+    combo.setCurrentItem(combo.count() - 1);
+    combo.setMaxCount(1);
+    EXPECT_LE(combo.currentItem(), combo.count());
+    combo.setMaxCount(-1);
+    EXPECT_EQ(combo.count(), 0);
+    EXPECT_EQ(combo.currentItem(), 0);
+}
+
 TEST_P(ComboBox, ArrowKeysChoose)
 {
     xinput::typeKey(XK_Down);

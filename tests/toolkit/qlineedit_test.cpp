@@ -14,6 +14,7 @@
 
 #include <X11/keysym.h>
 
+#include <limits.h>
 #include <string>
 
 namespace
@@ -95,6 +96,9 @@ TEST_F(LineEdit, SelectingByCallsIsSilentButWithinLimits)
     put("The quick brown fox");
     edit.setSelection(10, 99);
     EXPECT_EQ(marked(), "brown fox");
+    edit.setSelection(4, INT_MAX);
+    EXPECT_EQ(marked(), "quick brown fox");
+    EXPECT_EQ(edit.cursorPosition(), 19);
     edit.setSelection(-3, 3);
     EXPECT_EQ(marked(), "-");
     edit.setSelection(4, 5);

@@ -1,5 +1,6 @@
 // Where widgets are, how large, and when they hear of it.
 #include "eventlog.h"
+#include "perishable.h"
 #include "pixels.h"
 #include "printers.h"
 #include "waiting.h"
@@ -7,7 +8,11 @@
 #include <gtest/gtest.h>
 #include <qapplication.h>
 #include <qdesktopwidget.h>
+#include <qguardedptr.h>
 #include <qwidget.h>
+
+#include <functional>
+#include <vector>
 
 TEST(WidgetGeometry, ANewChildHasAFixedPlaceAndSizeAndKeepsThemWhenShown)
 {
@@ -238,4 +243,42 @@ TEST(WidgetGeometry, WhatIsFarOutsideDoesNotComeRound)
         EXPECT_EQ(far, child.x());
         EXPECT_EQ(0, Pixels::of(&window).count(0xff0000)) << far;
     }
+}
+
+namespace
+{
+
+// Gone as soon as it gets another size.
+class Mayfly : public QWidget
+{
+public:
+    explicit Mayfly(QWidget* parent) : QWidget(parent) {}
+
+protected:
+    void resizeEvent(QResizeEvent* event) override
+    {
+        if (event->oldSize() == QSize(50, 50))
+            delete this;
+    }
+};
+
+} // namespace
+
+TEST(WidgetGeometry, AWidgetMayBeDeletedWhileItsLimitsChange)
+{
+    const std::vector<std::function<void(QWidget*)>> changes = {
+        [](QWidget* w) { w->setMinimumSize(60, 60); }, [](QWidget* w) { w->setMaximumSize(40, 40); },
+        [](QWidget* w) { w->setFixedSize(60, 40); },   [](QWidget* w) { w->setFixedWidth(60); },
+        [](QWidget* w) { w->setFixedHeight(60); },
+    };
+    for (std::size_t i = 0; i < changes.size(); ++i) {
+        QWidget window;
+        QWidget* const child = new Perishable<Mayfly>(&window);
+        const QGuardedPtr<QWidget> alive(child);
+        child->resize(50, 50);
+        showAndWait(&window);
+        changes[i](child);
+        EXPECT_FALSE(alive) << i;
+    }
+    Graveyard::clear();
 }

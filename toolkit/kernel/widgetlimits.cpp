@@ -1,5 +1,7 @@
-// QWidget: how small and how large it may be.
+// QWidget: how small and how large it may be. Whoever hears of a new size may delete the widget.
 #include "kernel/widgetdata.h"
+
+#include <qguardedptr.h>
 
 namespace
 {
@@ -36,9 +38,12 @@ void QWidget::setMinimumSize(int minw, int minh)
     const QSize limit = limited("setMinimumSize", QSize(minw, minh));
     if (limit == w->minimum)
         return;
+    const QGuardedPtr<QWidget> alive(this);
     w->minimum = limit;
     if (width() < limit.width() || height() < limit.height())
         resize(size().expandedTo(limit));
+    if (!alive)
+        return;
     tell(this);
     updateGeometry();
 }
@@ -48,9 +53,12 @@ void QWidget::setMaximumSize(int maxw, int maxh)
     const QSize limit = limited("setMaximumSize", QSize(maxw, maxh));
     if (limit == w->maximum)
         return;
+    const QGuardedPtr<QWidget> alive(this);
     w->maximum = limit;
     if (width() > limit.width() || height() > limit.height())
         resize(size().boundedTo(limit));
+    if (!alive)
+        return;
     tell(this);
     updateGeometry();
 }
@@ -77,21 +85,28 @@ void QWidget::setMaximumHeight(int maxh)
 
 void QWidget::setFixedSize(int width, int height)
 {
+    const QGuardedPtr<QWidget> alive(this);
     setMinimumSize(width, height);
-    setMaximumSize(width, height);
-    resize(width, height);
+    if (alive)
+        setMaximumSize(width, height);
+    if (alive)
+        resize(width, height);
 }
 
 void QWidget::setFixedWidth(int width)
 {
+    const QGuardedPtr<QWidget> alive(this);
     setMinimumSize(width, minimumHeight());
-    setMaximumSize(width, maximumHeight());
+    if (alive)
+        setMaximumSize(width, maximumHeight());
 }
 
 void QWidget::setFixedHeight(int height)
 {
+    const QGuardedPtr<QWidget> alive(this);
     setMinimumSize(minimumWidth(), height);
-    setMaximumSize(maximumWidth(), height);
+    if (alive)
+        setMaximumSize(maximumWidth(), height);
 }
 
 QSize QWidget::sizeIncrement() const

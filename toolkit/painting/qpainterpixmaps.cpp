@@ -28,6 +28,8 @@ void QPainter::drawPixmap(int x, int y, const QPixmap& pixmap, int sx, int sy, i
     if (image.isNull())
         return;
     const QPixmap turned(image);
+    if (turned.isNull()) // larger than the server's pixmaps can be
+        return;
     zeltk::blit(d->baseKey(), d->drawable, d->bitmap, at.x() + origin.x(), at.y() + origin.y(), &turned, 0, 0,
                 turned.width(), turned.height(), false);
 }

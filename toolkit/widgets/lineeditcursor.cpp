@@ -98,7 +98,7 @@ void QLineEdit::setSelection(int start, int length)
     if (start < 0 || start > d->buffer.length()) {
         d->buffer.select(0, 0, d->buffer.cursor());
     } else {
-        const int end = QMIN(start + QMAX(length, 0), d->buffer.length());
+        const int end = start + QMIN(QMAX(length, 0), d->buffer.length() - start);
         d->buffer.select(start, end, end);
     }
     repaint(false);

@@ -221,8 +221,10 @@ void QComboBox::removeItem(int index)
         else if (index == before - 1 && index > 0)
             d->current = index - 1;
     }
-    if (alive)
-        update();
+    if (!alive)
+        return;
+    d->current = QMIN(d->current, count());
+    update();
 }
 
 void QComboBox::clear()
