@@ -159,6 +159,11 @@ TEST_P(ComboBoxPopup, AClickOnAButtonBesideItEndsItAndPressesTheButton)
 {
     window->resize(340, 160);
     button->move(240, 10);
+    // A window manager takes its time.
+    ASSERT_TRUE(waitFor([this] {
+        XWindowAttributes now;
+        return XGetWindowAttributes(xinput::display(), window->winId(), &now) && now.width == 340;
+    }));
     settle();
     open();
     xinput::click(button, 20, 15);

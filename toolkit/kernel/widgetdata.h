@@ -27,6 +27,7 @@ struct WidgetData {
     bool placed = false;               // the program chose the place
     bool mapped = false;               // the server was told to show the window
     bool takenAway = false;            // by the window manager, after the program had shown it
+    bool frameMayGrow = false;         // it was put into a frame and not mapped there yet
     unsigned long configureSerial = 0; // the latest change of the geometry that the server was told of
 
     QPalette palette;

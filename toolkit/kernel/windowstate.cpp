@@ -58,6 +58,21 @@ void tellVisible(QWidget* widget)
             tellVisible<Event>(child);
 }
 
+// Where the window is in the window manager's frame, if there is one.
+void measureFrame(QWidget* window)
+{
+    zeltk::WidgetData* data = zeltk::dataOf(window);
+    zeltk::x11::FramePlace place;
+    if (!zeltk::x11::framePlace(window->winId(), &place))
+        return;
+    const QRect client(place.client.x, place.client.y, place.client.width, place.client.height);
+    const QRect frame(place.frame.x, place.frame.y, place.frame.width, place.frame.height);
+    const QSize around = frame.size() - client.size();
+    data->frame =
+        QRect(data->rect.topLeft() - (client.topLeft() - frame.topLeft()), data->rect.size() + around);
+    zeltk::windowConfigured(window, client);
+}
+
 } // namespace
 
 namespace zeltk
@@ -68,6 +83,13 @@ namespace zeltk
 void windowMapped(QWidget* window)
 {
     WidgetData* data = dataOf(window);
+    if (data->frameMayGrow) {
+        data->frameMayGrow = false;
+        const QGuardedPtr<QWidget> alive(window);
+        measureFrame(window);
+        if (!alive)
+            return;
+    }
     if (data->mapped && data->takenAway) {
         data->takenAway = false;
         tellVisible<QShowEvent>(window);
@@ -89,19 +111,12 @@ void windowIconicChanged(QWidget* window)
         setMinimized(window, x11::isIconic(window->winId()));
 }
 
-// The window manager may have put the window into a frame.
+// The window manager may have put the window into a frame, which it may still be making: it is ready when the
+// window is mapped in it.
 void windowReparented(QWidget* window)
 {
-    WidgetData* data = dataOf(window);
-    x11::FramePlace place;
-    if (!x11::framePlace(window->winId(), &place))
-        return;
-    const QRect client(place.client.x, place.client.y, place.client.width, place.client.height);
-    const QRect frame(place.frame.x, place.frame.y, place.frame.width, place.frame.height);
-    const QSize around = frame.size() - client.size();
-    data->frame =
-        QRect(data->rect.topLeft() - (client.topLeft() - frame.topLeft()), data->rect.size() + around);
-    windowConfigured(window, client);
+    dataOf(window)->frameMayGrow = true;
+    measureFrame(window);
 }
 
 } // namespace zeltk
