@@ -56,6 +56,13 @@ void* operator new(std::size_t size)
     return memory;
 }
 
+// A test may have its own for arrays.
+
+__attribute__((weak)) void* operator new[](std::size_t size)
+{
+    return allocated(size);
+}
+
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept
 {
     return std::malloc(size ? size : 1);
@@ -72,6 +79,16 @@ void operator delete(void* memory) noexcept
 }
 
 void operator delete(void* memory, std::size_t) noexcept
+{
+    std::free(memory);
+}
+
+__attribute__((weak)) void operator delete[](void* memory) noexcept
+{
+    std::free(memory);
+}
+
+__attribute__((weak)) void operator delete[](void* memory, std::size_t) noexcept
 {
     std::free(memory);
 }
