@@ -1,6 +1,7 @@
 #include "killing.h"
 
 #include "random.h"
+#include "xinput.h"
 
 #include <algorithm>
 #include <csignal>
@@ -11,8 +12,22 @@
 
 #include <X11/Xlib.h>
 
+namespace
+{
+
+XErrorHandler toolkitsHandler = nullptr;
+
+// The windows that the hands reach for die with the other connection, a little before the program knows.
+int forgiveHands(Display* server, XErrorEvent* error)
+{
+    return server == xinput::display() ? 0 : toolkitsHandler(server, error);
+}
+
+} // namespace
+
 void killOwnerLater(unsigned long window, int microseconds)
 {
+    toolkitsHandler = XSetErrorHandler(forgiveHands);
     std::signal(SIGCHLD, SIG_IGN);
     if (fork() != 0)
         return;
