@@ -40,6 +40,8 @@ std::string brokenFocus()
             return "the focus widget does not exist";
         if (!focus->isEnabled())
             return nameOf(focus) + " has the focus and is disabled";
+        if (focus->topLevelWidget()->focusWidget() != focus)
+            return nameOf(focus) + " has the focus and its window does not know";
     }
     if (const QWidget* active = qApp->activeWindow()) {
         if (!exists(active))

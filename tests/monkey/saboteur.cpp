@@ -10,10 +10,18 @@
 
 void Saboteur::watch(QObject* object)
 {
+    m_types.insert_or_assign(object, typeid(*object));
     QStrList names = object->metaObject()->signalNames(true);
     for (const char* name = names.first(); name; name = names.next())
         if (std::string(name).compare(0, 9, "destroyed") != 0)
             connect(object, (std::string("2") + name).c_str(), this, SLOT(harm()));
+}
+
+// A widget whose destructor runs is no longer what it was made as. Nobody may delete it once more.
+bool Saboteur::isDying(QWidget* widget) const
+{
+    const auto found = m_types.find(widget);
+    return found != m_types.end() && found->second != typeid(*widget);
 }
 
 static QWidget* victimOf(World& world, QWidget* sender)
@@ -43,7 +51,8 @@ void Saboteur::harm()
     case 1:
     case 2:
         m_world->note("delete");
-        delete victimOf(*m_world, from);
+        if (QWidget* victim = victimOf(*m_world, from); !isDying(victim))
+            delete victim;
         break;
     case 3:
         m_world->note("hide");

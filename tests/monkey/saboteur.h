@@ -4,6 +4,10 @@
 
 #include <qobject.h>
 
+#include <map>
+#include <typeindex>
+
+class QWidget;
 struct World;
 
 class Saboteur : public QObject
@@ -22,7 +26,9 @@ public slots:
     void harm();
 
 private:
+    bool isDying(QWidget* widget) const;
     World* m_world;
+    std::map<const QObject*, std::type_index> m_types;
     int m_wait;
 };
 

@@ -27,6 +27,13 @@
 namespace
 {
 
+// While its destructor hides it, it is a QDialog only.
+class PlainDialog : public QDialog
+{
+public:
+    using QDialog::QDialog;
+};
+
 struct Kind {
     bool needsParent;
     QWidget* (*make)(Random&, QWidget* parent, const char* name);
@@ -94,7 +101,8 @@ const Kind kinds[] = {
      [](Random& r, QWidget* p, const char* n) -> QWidget* {
          return new QScrollBar(r.chance(50) ? Qt::Horizontal : Qt::Vertical, p, n);
      }},
-    {false, [](Random& r, QWidget* p, const char* n) -> QWidget* { return new QDialog(p, n, r.chance(30)); }},
+    {false,
+     [](Random& r, QWidget* p, const char* n) -> QWidget* { return new PlainDialog(p, n, r.chance(30)); }},
 };
 
 } // namespace

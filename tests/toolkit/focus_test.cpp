@@ -141,6 +141,35 @@ TEST_F(Focus, ADeletedWidgetLeavesIt)
     EXPECT_EQ(nullptr, top.focusWidget());
 }
 
+TEST_F(Focus, AWidgetThatMovesInItsWindowKeepsItAndItsPlaceInTheTabOrder)
+{
+    a.setFocus();
+    log.take();
+    a.reparent(&b, QPoint(0, 0), true);
+    EXPECT_EQ(&a, qApp->focusWidget());
+    EXPECT_EQ(&a, top.focusWidget());
+    EXPECT_EQ(std::string::npos, log.take().find("focus"));
+    xinput::typeKey(XK_Tab);
+    settle();
+    EXPECT_EQ(&b, qApp->focusWidget());
+    a.reparent(&top, QPoint(5, 5));
+}
+
+TEST_F(Focus, AWidgetThatMovesToAnotherWindowLeavesItBehind)
+{
+    InputWidget other(&log, nullptr, "other", 400, 100, 100, 100);
+    inner.setFocus();
+    log.take();
+    b.reparent(&other, QPoint(0, 0));
+    EXPECT_EQ(nullptr, qApp->focusWidget());
+    EXPECT_EQ(nullptr, top.focusWidget());
+    EXPECT_EQ(nullptr, other.focusWidget());
+    EXPECT_EQ(0U, log.take().find("inner focus out"));
+    inner.setEnabled(false);
+    EXPECT_EQ(nullptr, qApp->focusWidget());
+    b.reparent(&top, QPoint(40, 5));
+}
+
 TEST_F(Focus, AProxyGetsItInstead)
 {
     c.setFocus();

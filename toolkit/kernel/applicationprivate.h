@@ -30,6 +30,8 @@ void windowClosed(QWidget* window, bool wasMainWidget);
 void widgetHidden(QWidget* widget);
 void widgetDisabled(QWidget* widget);
 void widgetDestroyed(QWidget* widget);
+// A widget is about to get another parent. Who leaves the window leaves the focus and the Tab order, too.
+void widgetLeavesPlace(QWidget* widget, bool leavesWindow);
 
 // Removes what is queued for an object that dies.
 void removePostedEvents(QObject* receiver);

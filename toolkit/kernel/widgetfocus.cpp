@@ -177,6 +177,22 @@ void widgetHidden(QWidget* widget)
         setActive(nullptr);
 }
 
+void widgetLeavesPlace(QWidget* widget, bool leavesWindow)
+{
+    const QGuardedPtr<QWidget> alive(widget);
+    const QWidget* holder = application()->focus;
+    while (holder && holder != widget && !holder->isTopLevel())
+        holder = holder->parentWidget();
+    if (leavesWindow && holder == widget)
+        moveFocus(nullptr, QFocusEvent::Other);
+    if (alive)
+        forgetGrabs(widget);
+    if (alive && application()->active == widget)
+        setActive(nullptr);
+    if (alive && leavesWindow)
+        leaveTabOrder(widget);
+}
+
 // Who is disabled together with the parent has no next one, and neither has a window.
 void widgetDisabled(QWidget* widget)
 {

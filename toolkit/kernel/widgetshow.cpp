@@ -253,10 +253,13 @@ bool QWidget::close(bool alsoDelete)
     return true;
 }
 
-// The server's window lives on, so that all inside it come along; only its place changes.
+// The server's window lives on, so that all inside it come along; only its place changes. Focus and Tab order
+// are of a window, and stay where that stays the same.
 void QWidget::reparent(QWidget* parent, WFlags f, const QPoint& pos, bool showIt)
 {
     const QSize keptSize = size();
+    const bool leavesWindow =
+        isTopLevel() || !parent || (f & WType_Mask) || parent->topLevelWidget() != topLevelWidget();
     if (isVisible()) {
         clearWState(WState_Visible);
         leavePopupOrModal(this);
@@ -265,11 +268,10 @@ void QWidget::reparent(QWidget* parent, WFlags f, const QPoint& pos, bool showIt
                 forgetVisible(child);
     }
     const QGuardedPtr<QWidget> alive(this);
-    zeltk::widgetHidden(this);
+    zeltk::widgetLeavesPlace(this, leavesWindow);
     if (!alive)
         return;
     hideWindow(this);
-    zeltk::leaveTabOrder(this);
     if (QObject* old = this->parent())
         old->removeChild(this);
     if (parent)
@@ -279,7 +281,8 @@ void QWidget::reparent(QWidget* parent, WFlags f, const QPoint& pos, bool showIt
         setWState(WState_ForceHide);
     else
         clearWState(WState_ForceHide);
-    zeltk::joinTabOrder(this);
+    if (leavesWindow)
+        zeltk::joinTabOrder(this);
     zeltk::refreshEnabled(this);
     if (!alive)
         return;
