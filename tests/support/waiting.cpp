@@ -1,6 +1,7 @@
 #include "waiting.h"
 #include "xinput.h"
 
+#include <gtest/gtest.h>
 #include <qapplication.h>
 #include <qwidget.h>
 
@@ -37,6 +38,17 @@ void settle()
         handleEvents();
         poll(nullptr, 0, 1);
     }
+}
+
+LoopDeadline::LoopDeadline()
+{
+    startTimer(5000);
+}
+
+void LoopDeadline::timerEvent(QTimerEvent*)
+{
+    ADD_FAILURE() << "an event loop did not end by itself";
+    qApp->exit_loop();
 }
 
 void showAndWait(QWidget* topLevel)

@@ -2,6 +2,8 @@
 #ifndef TEST_WAITING_H
 #define TEST_WAITING_H
 
+#include <qobject.h>
+
 #include <functional>
 
 class QWidget;
@@ -12,6 +14,17 @@ bool waitFor(const std::function<bool()>& condition, int milliseconds = 5000);
 // Handles everything that is on its way: what was sent to the X server, what it answers, what is posted.
 // For checks that something does not happen; use waitFor for what should.
 void settle();
+
+// For a test that waits in an event loop, as in QDialog::exec(): while this lives, a loop that does not end
+// by itself is ended at the deadline, with a failure.
+class LoopDeadline : public QObject
+{
+public:
+    LoopDeadline();
+
+protected:
+    void timerEvent(QTimerEvent* event) override;
+};
 
 // Shows a top-level widget and waits until it is on the screen and active (no window manager needed).
 void showAndActivate(QWidget* topLevel);

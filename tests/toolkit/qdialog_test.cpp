@@ -1,4 +1,5 @@
 // Dialogs: how they end, where they stand, which keys they know.
+#include "messages.h"
 #include "printers.h"
 #include "waiting.h"
 #include "xinput.h"
@@ -86,6 +87,7 @@ TEST(DialogExec, EndsWithAnyNumber)
 
 TEST(DialogExec, ClosingRejects)
 {
+    const LoopDeadline deadline;
     Dialog dialog;
     dialog.soon([&] { EXPECT_TRUE(dialog.close()); });
     EXPECT_EQ(dialog.exec(), QDialog::Rejected);
@@ -94,6 +96,7 @@ TEST(DialogExec, ClosingRejects)
 
 TEST(DialogExec, HidingEndsItToo)
 {
+    const LoopDeadline deadline;
     Dialog dialog;
     dialog.soon([&] { dialog.hide(); });
     EXPECT_EQ(dialog.exec(), 0);
@@ -102,6 +105,7 @@ TEST(DialogExec, HidingEndsItToo)
 
 TEST(DialogExec, DeletionEndsItToo)
 {
+    const LoopDeadline deadline;
     for (const bool hidden : {false, true}) {
         Dialog* dialog = new Dialog;
         dialog->soon([=] {
@@ -127,6 +131,37 @@ TEST(DialogExec, MayBeNestedAndRepeated)
     EXPECT_EQ(innerResult, 5);
     outer.soon([&] { outer.done(7); });
     EXPECT_EQ(outer.exec(), 7);
+}
+
+TEST(DialogExec, OfADialogThatRunsOnlyWarns)
+{
+    const LoopDeadline deadline;
+    Dialog dialog;
+    dialog.soon([&] {
+        EXPECT_EQ(dialog.exec(), -1);
+        EXPECT_EQ(takeMessages(), "QDialog::exec: Recursive call detected\n");
+        EXPECT_TRUE(dialog.isVisible());
+        dialog.done(5);
+    });
+    EXPECT_EQ(dialog.exec(), 5);
+}
+
+// Then the dialog stays on the screen and does not run any more.
+TEST(DialogExec, MayBeEndedByTheProgramsOwnHand)
+{
+    const LoopDeadline deadline;
+    Dialog dialog, other;
+    dialog.soon([] { qApp->exit_loop(); });
+    EXPECT_EQ(dialog.exec(), QDialog::Rejected);
+    EXPECT_TRUE(dialog.isVisible());
+    other.soon([&] {
+        dialog.hide();
+        other.soon([&] { other.done(3); });
+    });
+    EXPECT_EQ(other.exec(), 3) << "hiding the first one does not end the loop of another one";
+    dialog.soon([&] { dialog.done(4); });
+    EXPECT_EQ(dialog.exec(), 4);
+    EXPECT_EQ(takeMessages(), "");
 }
 
 TEST(DialogModality, KeepsClicksFromOtherWindows)
@@ -238,6 +273,19 @@ TEST(DialogExtension, OpensBesideOrBelow)
     dialog.showExtension(false);
     EXPECT_EQ(dialog.size(), QSize(100, 60));
     EXPECT_FALSE(extension->isVisible());
+}
+
+TEST(DialogExtension, MayDieBeforeTheDialog)
+{
+    Dialog dialog;
+    dialog.resize(100, 60);
+    QWidget* extension = new QWidget(&dialog);
+    dialog.setExtension(extension);
+    delete extension;
+    EXPECT_EQ(dialog.extension(), static_cast<QWidget*>(nullptr));
+    dialog.showExtension(true);
+    EXPECT_EQ(dialog.size(), QSize(100, 60));
+    dialog.setExtension(new QWidget(&dialog));
 }
 
 TEST(DialogGrip, ResizesWithTheMouse)

@@ -4,6 +4,7 @@
 #include "kernel/applicationprivate.h"
 #include "dialogs/dialogdata.h"
 #include "widgets/defaultbutton.h"
+#include "widgets/focuskeys.h"
 
 #include <qapplication.h>
 #include <qdesktopwidget.h>
@@ -130,6 +131,7 @@ int QDialog::exec()
     qApp->enter_loop();
     if (!alive)
         return Rejected;
+    d->executing = false; // the program may have ended the loop by itself
     setModal(wasModal);
     const int code = result();
     if (deletes)
@@ -193,7 +195,8 @@ void QDialog::adjustPosition(QWidget* anchor)
     }
     const QSize frame = expectedFrame();
     const QPoint place(centre.x() - width() / 2 - frame.width(), centre.y() - height() / 2 - frame.height());
-    QWidget::move(keptInside(place, size() + frame, room).x(), keptInside(place, size() + frame, room).y());
+    const QPoint kept = keptInside(place, size() + frame, room);
+    QWidget::move(kept.x(), kept.y());
 }
 
 void QDialog::keyPressEvent(QKeyEvent* event)
@@ -213,16 +216,11 @@ void QDialog::keyPressEvent(QKeyEvent* event)
     case Key_Escape:
         reject();
         break;
-    case Key_Up:
-    case Key_Left:
-        focusNextPrevChild(false);
-        break;
-    case Key_Down:
-    case Key_Right:
-        focusNextPrevChild(true);
-        break;
     default:
-        event->ignore();
+        if (const int step = zeltk::focusStep(event->key()))
+            focusNextPrevChild(step > 0);
+        else
+            event->ignore();
     }
 }
 

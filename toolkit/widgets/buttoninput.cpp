@@ -1,5 +1,6 @@
 // QButton: mouse and keys.
 #include "widgets/buttondata.h"
+#include "widgets/focuskeys.h"
 
 #include <qevent.h>
 #include <qguardedptr.h>
@@ -128,16 +129,11 @@ void QButton::keyPressEvent(QKeyEvent* event)
         else
             event->ignore();
         break;
-    case Key_Up:
-    case Key_Left:
-        focusNextPrevChild(false);
-        break;
-    case Key_Down:
-    case Key_Right:
-        focusNextPrevChild(true);
-        break;
     default:
-        event->ignore();
+        if (const int step = zeltk::focusStep(event->key()))
+            focusNextPrevChild(step > 0);
+        else
+            event->ignore();
     }
 }
 

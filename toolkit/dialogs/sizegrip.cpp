@@ -1,6 +1,7 @@
-// QDialog: extension and size grip.
-#include "dialogs/dialogdata.h"
+// The corner of a dialog that resizes it.
 #include "dialogs/sizegrip.h"
+
+#include "dialogs/dialogdata.h"
 
 #include <qcursor.h>
 #include <qevent.h>
@@ -53,65 +54,12 @@ void SizeGrip::mouseMoveEvent(QMouseEvent* event)
 
 } // namespace zeltk
 
-void QDialog::setExtension(QWidget* extension)
-{
-    if (d->extension && d->extension != extension)
-        delete d->extension;
-    d->extension = extension;
-    if (!extension)
-        return;
-    if (extension->parentWidget() != this)
-        extension->reparent(this, QPoint(0, 0));
-    extension->hide();
-}
-
-QWidget* QDialog::extension() const
-{
-    return d->extension;
-}
-
-void QDialog::setOrientation(Orientation orientation)
-{
-    d->orientation = orientation;
-}
-
-Qt::Orientation QDialog::orientation() const
-{
-    return d->orientation;
-}
-
-// The dialog grows by what the extension likes best.
-void QDialog::showExtension(bool show)
-{
-    if (!d->extension || show == !d->sizeBefore.isNull())
-        return;
-    if (!show) {
-        d->extension->hide();
-        const QSize before = d->sizeBefore;
-        d->sizeBefore = QSize(0, 0);
-        resize(before);
-        return;
-    }
-    d->sizeBefore = size();
-    const QSize wanted = d->extension->sizeHint().expandedTo(d->extension->minimumSize());
-    const QSize extra = wanted.boundedTo(d->extension->maximumSize());
-    if (d->orientation == Horizontal) {
-        d->extension->setGeometry(width(), 0, extra.width(), height());
-        resize(width() + extra.width(), height());
-    } else {
-        d->extension->setGeometry(0, height(), width(), extra.height());
-        resize(width(), height() + extra.height());
-    }
-    d->extension->show();
-}
-
 void QDialog::setSizeGripEnabled(bool enable)
 {
     if (enable == isSizeGripEnabled())
         return;
     if (!enable) {
         delete d->grip;
-        d->grip = 0;
         return;
     }
     d->grip = new zeltk::SizeGrip(this);
@@ -120,7 +68,7 @@ void QDialog::setSizeGripEnabled(bool enable)
 
 bool QDialog::isSizeGripEnabled() const
 {
-    return d->grip != 0;
+    return !d->grip.isNull();
 }
 
 void QDialog::resizeEvent(QResizeEvent*)
