@@ -4,6 +4,7 @@
 #include "xinput.h"
 
 #include <qapplication.h>
+#include <qwidgetlist.h>
 
 #include <algorithm>
 
@@ -61,15 +62,25 @@ static const Action& choose(Random& random)
     return allActions().back();
 }
 
-// Widgets are painted on pictures of their own size. The server is not asked for gigabytes of them.
-static void tame(World& world)
+// Widgets are painted on pictures of their own size. The server is not asked for gigabytes of them, neither
+// for those of the toolkit's own children.
+static void tame()
 {
     const double mostPixels = 4e6;
-    for (QWidget* widget : world.widgets())
-        if (1.0 * widget->width() * widget->height() > mostPixels) {
+    std::vector<QGuardedPtr<QWidget>> tooLarge;
+    QWidgetList* all = QApplication::allWidgets();
+    for (QWidgetListIt it(*all); it.current(); ++it)
+        if (1.0 * it.current()->width() * it.current()->height() > mostPixels)
+            tooLarge.emplace_back(it.current());
+    delete all;
+    for (const QGuardedPtr<QWidget>& widget : tooLarge) {
+        if (widget)
             widget->setMinimumSize(0, 0);
+        if (widget)
             widget->setMaximumSize(1000, 1000);
-        }
+        if (widget) // whose largest size was this one before
+            widget->resize(widget->size().boundedTo(widget->maximumSize()));
+    }
 }
 
 void act(World& world)
@@ -82,7 +93,7 @@ void act(World& world)
     if (target || !action.className) {
         ++world.depth;
         action.run(world, target);
-        tame(world);
+        tame();
         --world.depth;
     }
     world.random.trace += "]";

@@ -84,3 +84,11 @@ TEST(ScrollViewCalls, RepaintAtOnceOrLater)
     view.updateContents();
     EXPECT_TRUE(waitFor([&view] { return view.repaints == 4; }));
 }
+
+TEST(ScrollViewCalls, WithAHugeFrameLeaveNoRoom)
+{
+    View view;
+    view.setLineWidth(1200000000);
+    view.updateScrollBars();
+    EXPECT_EQ(QSize(1, 1), view.viewport()->size());
+}

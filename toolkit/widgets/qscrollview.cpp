@@ -182,10 +182,12 @@ void QScrollView::resizeContents(int w, int h)
     updateScrollBars();
 }
 
-// The frame goes round the contents only; a bar takes room from the other direction.
+// The frame goes round the contents only; a bar takes room from the other direction. A frame that is wider
+// than any widget leaves no room, just as one of that width.
 void QScrollView::updateScrollBars()
 {
-    const int frame = 2 * frameWidth();
+    const int edge = QMIN(frameWidth(), QWIDGETSIZE_MAX);
+    const int frame = 2 * edge;
     const int extent = d->vertical->sizeHint().width();
     int room = width() - frame;
     bool vertical = needsBar(d->verticalMode, d->height, height() - frame);
@@ -194,7 +196,7 @@ void QScrollView::updateScrollBars()
     const int w = width() - (vertical ? extent : 0);
     const int h = height() - (horizontal ? extent : 0);
     setFrameRect(QRect(0, 0, w, h));
-    const QRect inside(frameWidth(), frameWidth(), QMAX(0, w - frame), QMAX(0, h - frame));
+    const QRect inside(edge, edge, QMAX(0, w - frame), QMAX(0, h - frame));
     d->viewport->setGeometry(inside);
     if (vertical)
         d->vertical->setGeometry(w, 0, extent, h);
