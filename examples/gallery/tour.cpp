@@ -15,7 +15,7 @@ namespace
 
 const int stepMilliseconds = 60;
 // What a picture of a single widget shows around it, in pixels.
-const int closeMargin = 4;
+const int closeMargin = 2;
 
 // "Upside down" becomes "upside-down".
 std::string fileName(const char* objectName)
