@@ -11,12 +11,15 @@
 namespace
 {
 
-QImage pattern(int width, int height)
+QImage pattern(int width, int height, bool alpha = false)
 {
     QImage image(width, height, 32);
+    image.setAlphaBuffer(alpha);
     for (int y = 0; y < height; ++y)
         for (int x = 0; x < width; ++x)
-            image.setPixel(x, y, qRgb(x * 37 % 256, y * 53 % 256, (x + y) * 29 % 256));
+            image.setPixel(
+                x, y,
+                qRgba(x * 37 % 256, y * 53 % 256, (x + y) * 29 % 256, alpha ? (x * 91 + y * 17) % 256 : 255));
     return image;
 }
 
@@ -82,13 +85,41 @@ TEST(ScaledImage, SmoothlyIsTheAverageOfWhatAPixelCovers)
     EXPECT_EQ(pattern(4, 3).scale(8, 6), pattern(4, 3).smoothScale(8, 6));
 }
 
+TEST(ScaledImage, SmoothlyCountsWholePartsOfPixels)
+{
+    const QImage small = pattern(40, 30).smoothScale(13, 7);
+    EXPECT_EQ(0xff518f90u, small.pixel(2, 4)); // where 144.6 and 85.6 are exact
+    EXPECT_EQ(0xff276d55u, small.pixel(0, 6));
+    EXPECT_EQ(0xff43815fu, small.pixel(7, 3));
+    const QImage large = pattern(31, 17).smoothScale(60, 32);
+    EXPECT_EQ(0xffc75dbeu, large.pixel(11, 22)); // 190.6
+}
+
+TEST(ScaledImage, SmoothlyCountsPixelsByTheirAlpha)
+{
+    const QImage image = pattern(9, 9, true).smoothScale(5, 5);
+    EXPECT_EQ(0x30261f2eu, image.pixel(0, 0));
+    EXPECT_EQ(0xb81c199bu, image.pixel(4, 0));
+    EXPECT_EQ(0x849397b2u, image.pixel(2, 2));
+    EXPECT_EQ(0x621784adu, image.pixel(4, 4));
+}
+
+TEST(ScaledImage, OfATallColumnIsStillItsAverage)
+{
+    QImage column(1, 20000, 32);
+    column.fill(0xff000000u);
+    for (int y = 0; y < 10000; ++y)
+        column.setPixel(0, y, 0xffffffffu);
+    EXPECT_NEAR(127, qRed(column.smoothScale(1, 1).pixel(0, 0)), 2);
+}
+
 TEST(ScaledImage, KeepsItsAlphaBuffer)
 {
     QImage image(2, 1, 32);
     image.setAlphaBuffer(true);
     image.setPixel(0, 0, qRgba(10, 20, 30, 0));
     image.setPixel(1, 0, qRgba(10, 20, 30, 200));
-    EXPECT_EQ(qRgba(10, 20, 30, 100), image.smoothScale(1, 1).pixel(0, 0));
+    EXPECT_EQ(qRgba(11, 21, 31, 100), image.smoothScale(1, 1).pixel(0, 0)); // rounded up at each step
     EXPECT_TRUE(image.smoothScale(1, 1).hasAlphaBuffer());
     EXPECT_TRUE(image.scale(1, 1).hasAlphaBuffer());
 }

@@ -10,47 +10,86 @@ using zeltk::ImageData;
 namespace
 {
 
-typedef std::vector<int> Channels; // alpha, red, green, blue of one pixel after the other
-
-// A row of `size` values, each the average of what it covers of `count` ones; `stride` is from one to the
-// next. The line is measured in parts of which `size` make a pixel of the old one and `count` one of the new
-// one.
-void averageLine(const int* from, int count, int* to, int size, int stride)
+// A new pixel, as far as it is known. Pixels of images with an alpha buffer count by their alpha.
+class Average
 {
-    for (int i = 0; i < size; ++i) {
-        const long long begin = static_cast<long long>(i) * count;
-        const long long end = begin + count;
-        long long sum = 0;
-        for (long long at = begin; at < end;) {
-            const long long pixel = at / size;
-            const long long next = std::min(end, (pixel + 1) * size);
-            sum += from[pixel * stride] * (next - at);
-            at = next;
+public:
+    Average(int unit, bool byAlpha) : unit_(unit), byAlpha_(byAlpha) { clear(); }
+    void clear() { alpha_ = red_ = green_ = blue_ = unit_ / 2; }
+    void add(QRgb pixel, long long parts);
+    QRgb pixel() const;
+
+private:
+    int value(long long sum) const;
+
+    int unit_; // the parts of a whole pixel
+    bool byAlpha_;
+    long long alpha_, red_, green_, blue_;
+};
+
+void Average::add(QRgb pixel, long long parts)
+{
+    const int alpha = qAlpha(pixel);
+    alpha_ += parts * alpha;
+    const long long weight = byAlpha_ ? parts * alpha : parts;
+    const int whole = byAlpha_ ? 255 : 1;
+    red_ += weight * qRed(pixel) / whole;
+    green_ += weight * qGreen(pixel) / whole;
+    blue_ += weight * qBlue(pixel) / whole;
+}
+
+int Average::value(long long sum) const
+{
+    return static_cast<int>(byAlpha_ ? sum * 255 / alpha_ : sum / unit_);
+}
+
+QRgb Average::pixel() const
+{
+    return qRgba(value(red_), value(green_), value(blue_), static_cast<int>(alpha_ / unit_));
+}
+
+// A line of `size` pixels out of `count` old ones; `stride` is from one to the next. An old pixel gives a
+// whole number of parts, so that the last one may have to fill up what is missing.
+void averageLine(const QRgb* from, int count, QRgb* to, int size, int stride, Average average, int unit)
+{
+    const long long partsOfOne = static_cast<long long>(size) * unit / count;
+    long long missing = unit;
+    const auto finish = [&](QRgb pixel) {
+        average.add(pixel, missing);
+        *to = average.pixel();
+        to += stride;
+        average.clear();
+        missing = unit;
+    };
+    for (int i = 0; i < count; ++i) {
+        long long parts = partsOfOne;
+        while (parts >= missing) {
+            parts -= missing;
+            finish(from[i * stride]);
         }
-        to[i * stride] = static_cast<int>((2 * sum + count) / (2 * count));
+        average.add(from[i * stride], parts);
+        missing -= parts;
     }
+    if (missing < unit)
+        finish(from[(count - 1) * stride]);
 }
 
-Channels channelsOf(const std::vector<QRgb>& pixels)
+// First the rows become as many as wanted, then the columns. Columns have whole numbers of parts.
+std::vector<QRgb> averaged(const std::vector<QRgb>& from, const QSize& size, const QSize& wanted,
+                           bool byAlpha)
 {
-    Channels values;
-    for (const QRgb pixel : pixels)
-        values.insert(values.end(), {qAlpha(pixel), qRed(pixel), qGreen(pixel), qBlue(pixel)});
-    return values;
-}
-
-// First the rows become as many as wanted, then the columns.
-Channels averaged(const Channels& from, const QSize& size, const QSize& wanted)
-{
-    Channels rows(static_cast<size_t>(4 * size.width() * wanted.height()));
-    for (int i = 0; i < 4 * size.width(); ++i)
-        averageLine(&from[static_cast<size_t>(i)], size.height(), &rows[static_cast<size_t>(i)],
-                    wanted.height(), 4 * size.width());
-    Channels result(static_cast<size_t>(4 * wanted.width() * wanted.height()));
-    for (int y = 0; y < wanted.height(); ++y)
-        for (int channel = 0; channel < 4; ++channel)
-            averageLine(&rows[static_cast<size_t>(4 * y * size.width() + channel)], size.width(),
-                        &result[static_cast<size_t>(4 * y * wanted.width() + channel)], wanted.width(), 4);
+    int unit = size.width();
+    while (unit < 4096 || unit < 128 * size.height())
+        unit *= 2;
+    const Average average(unit, byAlpha);
+    std::vector<QRgb> rows(static_cast<size_t>(size.width()) * static_cast<size_t>(wanted.height()));
+    for (int x = 0; x < size.width(); ++x)
+        averageLine(&from[static_cast<size_t>(x)], size.height(), &rows[static_cast<size_t>(x)],
+                    wanted.height(), size.width(), average, unit);
+    std::vector<QRgb> result(static_cast<size_t>(wanted.width()) * static_cast<size_t>(wanted.height()));
+    for (size_t y = 0; y < static_cast<size_t>(wanted.height()); ++y)
+        averageLine(&rows[y * static_cast<size_t>(size.width())], size.width(),
+                    &result[y * static_cast<size_t>(wanted.width())], wanted.width(), 1, average, unit);
     return result;
 }
 
@@ -121,8 +160,7 @@ QImage QImage::smoothScale(int width, int height, ScaleMode mode) const
     if (result.isNull())
         return result;
     result.d->alpha = d->alpha;
-    const Channels values = averaged(channelsOf(d->pixels), size(), wanted);
-    for (size_t i = 0; i < result.d->pixels.size(); ++i)
-        result.d->pixels[i] = qRgba(values[4 * i + 1], values[4 * i + 2], values[4 * i + 3], values[4 * i]);
+    const std::vector<QRgb> pixels = averaged(d->pixels, size(), wanted, d->alpha);
+    std::copy(pixels.begin(), pixels.end(), result.d->pixels.begin());
     return result;
 }
