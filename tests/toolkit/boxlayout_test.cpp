@@ -53,6 +53,20 @@ protected:
         return result;
     }
 
+    struct Part {
+        Policy policy;
+        int hint;
+        int stretch;
+    };
+    // How the children of a row share that width.
+    std::vector<int> shares(int w, const std::vector<Part>& parts)
+    {
+        make(right);
+        for (const Part& part : parts)
+            addAcross(part.policy, part.hint, part.stretch);
+        return widths(w);
+    }
+
     QWidget window;
     QWidget panel{&window};
     QBoxLayout* box = nullptr;
@@ -136,29 +150,26 @@ TEST_F(Box, AlignedChildKeepsItsSize)
 
 TEST_F(Box, SurplusGoesToWhoWantsToExpand)
 {
-    make(right);
-    addAcross(QSizePolicy::Preferred, 30);
-    addAcross(QSizePolicy::Expanding, 20);
-    addAcross(QSizePolicy::Minimum, 10);
-    EXPECT_EQ(widths(100), (Widths{30, 60, 10}));
+    EXPECT_EQ(shares(100, {{QSizePolicy::Preferred, 30, 0},
+                           {QSizePolicy::Expanding, 20, 0},
+                           {QSizePolicy::Minimum, 10, 0}}),
+              (Widths{30, 60, 10}));
 }
 
 TEST_F(Box, SurplusGoesToAllIfNobodyWantsIt)
 {
-    make(right);
-    addAcross(QSizePolicy::Preferred, 30);
-    addAcross(QSizePolicy::Fixed, 20);
-    addAcross(QSizePolicy::Minimum, 10);
-    EXPECT_EQ(widths(100), (Widths{40, 20, 40}));
+    EXPECT_EQ(
+        shares(100,
+               {{QSizePolicy::Preferred, 30, 0}, {QSizePolicy::Fixed, 20, 0}, {QSizePolicy::Minimum, 10, 0}}),
+        (Widths{40, 20, 40}));
 }
 
 TEST_F(Box, StretchCountsMoreThanExpanding)
 {
-    make(right);
-    addAcross(QSizePolicy::Preferred, 30, 1);
-    addAcross(QSizePolicy::Expanding, 20);
-    addAcross(QSizePolicy::Preferred, 10, 3);
-    EXPECT_EQ(widths(100), (Widths{20, 20, 60}));
+    EXPECT_EQ(shares(100, {{QSizePolicy::Preferred, 30, 1},
+                           {QSizePolicy::Expanding, 20, 0},
+                           {QSizePolicy::Preferred, 10, 3}}),
+              (Widths{20, 20, 60}));
 }
 
 TEST_F(Box, WidgetMayBringItsStretch)
@@ -214,11 +225,10 @@ TEST_F(Box, LimitsOfTheProgramCountMoreThanHints)
 
 TEST_F(Box, TooLittleRoomIsTakenFromAllDownToTheirMinimum)
 {
-    make(right);
-    addAcross(QSizePolicy::Preferred, 30);
-    addAcross(QSizePolicy::Minimum, 30);
-    addAcross(QSizePolicy::Preferred, 10);
-    EXPECT_EQ(widths(60), (Widths{25, 30, 5}));
+    EXPECT_EQ(shares(60, {{QSizePolicy::Preferred, 30, 0},
+                          {QSizePolicy::Minimum, 30, 0},
+                          {QSizePolicy::Preferred, 10, 0}}),
+              (Widths{25, 30, 5}));
     EXPECT_EQ(widths(50), (Widths{19, 30, 1}));
     EXPECT_EQ(widths(2), (Widths{1, 30, 1})); // they reach out
 }

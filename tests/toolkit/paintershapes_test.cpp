@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 #include <qpointarray.h>
 
+#include <vector>
+
 namespace
 {
 
@@ -13,6 +15,25 @@ QPointArray triangle()
     points.setPoints(3, 1, 1, 7, 1, 1, 7);
     return points;
 }
+
+constexpr unsigned white = 0xffffff, black = 0, yellow = 0xffff00;
+
+// What is drawn with a black pen and a yellow brush.
+class Shape
+{
+public:
+    Shape(int width, int height) : m_sheet(width, height) { m_sheet.painter.setBrush(Qt::yellow); }
+    QPainter* operator->() { return &m_sheet.painter; }
+    void has(unsigned color, const std::vector<QPoint>& places)
+    {
+        const Pixels pixels = m_sheet.pixels();
+        for (const QPoint& place : places)
+            EXPECT_EQ(color, pixels.at(place.x(), place.y())) << place.x() << "," << place.y();
+    }
+
+private:
+    Sheet m_sheet;
+};
 
 } // namespace
 
@@ -72,68 +93,48 @@ TEST(PainterPolygons, ConvexOnesLookLikeOthers)
 
 TEST(PainterEllipses, TouchTheirRectangle)
 {
-    Sheet sheet(32, 22);
-    sheet.painter.setBrush(Qt::yellow);
-    sheet.painter.drawEllipse(1, 1, 30, 20);
-    const Pixels pixels = sheet.pixels();
-    EXPECT_EQ(0u, pixels.at(1, 10));
-    EXPECT_EQ(0u, pixels.at(30, 10));
-    EXPECT_EQ(0u, pixels.at(15, 1));
-    EXPECT_EQ(0u, pixels.at(15, 20));
-    EXPECT_EQ(0xffff00u, pixels.at(15, 10));
-    EXPECT_EQ(0xffffffu, pixels.at(1, 1));
-    EXPECT_EQ(0xffffffu, pixels.at(0, 10));
-    EXPECT_EQ(0xffffffu, pixels.at(31, 10));
+    Shape ellipse(32, 22);
+    ellipse->drawEllipse(1, 1, 30, 20);
+    ellipse.has(black, {{1, 10}, {30, 10}, {15, 1}, {15, 20}});
+    ellipse.has(yellow, {{15, 10}});
+    ellipse.has(white, {{1, 1}, {0, 10}, {31, 10}});
 }
 
 TEST(PainterArcs, GoCounterClockwiseFromTheRight)
 {
-    Sheet sheet(30, 30);
-    sheet.painter.drawArc(0, 0, 30, 30, 0, 90 * 16);
-    const Pixels pixels = sheet.pixels();
-    EXPECT_EQ(0u, pixels.at(29, 14));
-    EXPECT_EQ(0u, pixels.at(15, 0));
-    EXPECT_EQ(0xffffffu, pixels.at(0, 14));
-    EXPECT_EQ(0xffffffu, pixels.at(14, 29));
+    Shape arc(30, 30);
+    arc->drawArc(0, 0, 30, 30, 0, 90 * 16);
+    arc.has(black, {{29, 14}, {15, 0}});
+    arc.has(white, {{0, 14}, {14, 29}, {15, 15}});
 }
 
 TEST(PainterPies, AreFilledToTheCentre)
 {
-    Sheet sheet(40, 40);
-    sheet.painter.setBrush(Qt::yellow);
-    sheet.painter.drawPie(0, 0, 40, 40, 45 * 16, 90 * 16);
-    const Pixels pixels = sheet.pixels();
-    EXPECT_EQ(0xffff00u, pixels.at(20, 8));
-    EXPECT_EQ(0u, pixels.at(20, 20));
-    EXPECT_EQ(0xffffffu, pixels.at(20, 30));
-    EXPECT_EQ(0xffffffu, pixels.at(4, 20));
+    Shape pie(40, 40);
+    pie->drawPie(0, 0, 40, 40, 45 * 16, 90 * 16);
+    pie.has(yellow, {{20, 8}});
+    pie.has(black, {{20, 20}});
+    pie.has(white, {{20, 30}, {4, 20}});
 }
 
 TEST(PainterChords, AreFilledToTheLineBetweenTheirEnds)
 {
-    Sheet sheet(40, 40);
-    sheet.painter.setBrush(Qt::yellow);
-    sheet.painter.drawChord(0, 0, 40, 40, 0, 90 * 16);
-    const Pixels pixels = sheet.pixels();
-    EXPECT_EQ(0xffff00u, pixels.at(32, 8));
-    EXPECT_EQ(0xffffffu, pixels.at(22, 18));
+    Shape chord(40, 40);
+    chord->drawChord(0, 0, 40, 40, 0, 90 * 16);
+    chord.has(yellow, {{32, 8}});
+    chord.has(white, {{22, 18}});
 }
 
 TEST(PainterRoundRects, LeaveTheCornersOut)
 {
-    Sheet sheet(40, 30);
-    sheet.painter.setBrush(Qt::yellow);
-    sheet.painter.drawRoundRect(0, 0, 40, 30, 30, 30);
-    const Pixels pixels = sheet.pixels();
-    const int corners[4][2] = {{0, 0}, {39, 0}, {0, 29}, {39, 29}};
-    for (const auto& corner : corners)
-        EXPECT_EQ(0xffffffu, pixels.at(corner[0], corner[1]));
+    Shape rect(40, 30);
+    rect->drawRoundRect(0, 0, 40, 30, 30, 30);
+    rect.has(white, {{0, 0}, {39, 0}, {0, 29}, {39, 29}});
     for (int x = 6; x < 34; ++x) {
-        EXPECT_EQ(0u, pixels.at(x, 0)) << x;
-        EXPECT_EQ(0u, pixels.at(x, 29)) << x;
-        EXPECT_EQ(0xffff00u, pixels.at(x, 1)) << x;
+        rect.has(black, {{x, 0}, {x, 29}});
+        rect.has(yellow, {{x, 1}});
     }
-    EXPECT_EQ(0xffff00u, pixels.at(20, 15));
+    rect.has(yellow, {{20, 15}});
 }
 
 TEST(PainterRoundRects, WithoutRoundnessAreRectangles)

@@ -99,34 +99,25 @@ TEST(PainterTransform, TurnsFilledRectanglesWithoutLosingAPixel)
               sheet.drawing());
 }
 
-TEST(PainterTransform, MovesPixmaps)
+TEST(PainterTransform, MovesAndScalesPixmaps)
 {
     QPixmap blue(2, 1);
     blue.fill(Qt::blue);
-    Sheet sheet(4, 2);
-    sheet.painter.translate(1, 1);
-    sheet.painter.drawPixmap(0, 0, blue);
-    EXPECT_EQ(R"(
-....
-.bb.
-)",
-              sheet.drawing());
-}
-
-TEST(PainterTransform, ScalesPixmaps)
-{
-    QPixmap blue(2, 1);
-    blue.fill(Qt::blue);
-    Sheet sheet(6, 4);
-    sheet.painter.scale(2, 3);
-    sheet.painter.drawPixmap(0, 0, blue);
-    EXPECT_EQ(R"(
-bbbb..
-bbbb..
-bbbb..
-......
-)",
-              sheet.drawing());
+    Sheet moved(4, 2), scaled(6, 4);
+    moved.painter.translate(1, 1);
+    scaled.painter.scale(2, 3);
+    for (Sheet* sheet : {&moved, &scaled})
+        sheet->painter.drawPixmap(0, 0, blue);
+    EXPECT_EQ("\n"
+              "....\n"
+              ".bb.\n",
+              moved.drawing());
+    EXPECT_EQ("\n"
+              "bbbb..\n"
+              "bbbb..\n"
+              "bbbb..\n"
+              "......\n",
+              scaled.drawing());
 }
 
 TEST(PainterTransform, TellsItsTranslation)

@@ -59,9 +59,9 @@ class ColorGroupDlg : public testing::Test
 protected:
     ColorGroupDlg() { make(); }
 
-    void make(QWidget* parent = nullptr, bool modal = false, Qt::WFlags flags = 0)
+    void make()
     {
-        dialog.reset(new ZelColorGroupDlg(parent, "dialog", modal, flags));
+        dialog.reset(new ZelColorGroupDlg(nullptr, "dialog"));
         swatches.clear();
         QObjectList* const frames = dialog->queryList("ZelFrame");
         for (QObject* each = frames->first(); each; each = frames->next())
@@ -118,16 +118,8 @@ protected:
 
 TEST_F(ColorGroupDlg, TakesItsArgumentsAsADialogDoes)
 {
-    QWidget parent;
-    make(&parent, true, Qt::WDestructiveClose);
-    EXPECT_EQ(dialog->parentWidget(), &parent);
-    EXPECT_STREQ(dialog->name(), "dialog");
-    EXPECT_TRUE(dialog->isModal());
-    EXPECT_TRUE(dialog->testWFlags(Qt::WDestructiveClose));
+    expectTakesDialogArguments<ZelColorGroupDlg>();
     EXPECT_EQ(dialog->caption(), "A colors palette");
-    make();
-    EXPECT_FALSE(dialog->isModal());
-    EXPECT_EQ(dialog->parentWidget(), static_cast<QWidget*>(nullptr));
 }
 
 TEST_F(ColorGroupDlg, HasItsChildrenInThisOrder)

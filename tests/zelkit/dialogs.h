@@ -53,6 +53,22 @@ inline QRect place(QWidget* dialog, const char* child)
     return widget ? widget->geometry() : QRect();
 }
 
+// Parent, name, modality and flags are taken as QDialog takes them.
+template <class Dialog>
+void expectTakesDialogArguments()
+{
+    QWidget parent;
+    const Dialog given(&parent, "dialog", true, Qt::WDestructiveClose);
+    EXPECT_EQ(given.parentWidget(), &parent);
+    EXPECT_STREQ(given.name(), "dialog");
+    EXPECT_TRUE(given.isModal());
+    EXPECT_TRUE(given.testWFlags(Qt::WDestructiveClose));
+    const Dialog plain(nullptr, "dialog");
+    EXPECT_EQ(plain.parentWidget(), static_cast<QWidget*>(nullptr));
+    EXPECT_FALSE(plain.isModal());
+    EXPECT_FALSE(plain.testWFlags(Qt::WDestructiveClose));
+}
+
 // "QLabel RLabel; ..." in the order in which they were created.
 inline std::string childrenOf(QWidget* dialog)
 {

@@ -27,10 +27,7 @@ std::vector<std::string> entries(const char** table)
 class FontDlg : public testing::Test
 {
 protected:
-    void make(QWidget* parent = nullptr, bool modal = false, Qt::WFlags flags = 0)
-    {
-        dialog.reset(new ZelFontDlg(parent, "dialog", modal, flags));
-    }
+    void make() { dialog.reset(new ZelFontDlg(nullptr, "dialog")); }
 
     QComboBox* box(const char* name) const { return static_cast<QComboBox*>(childNamed(dialog.get(), name)); }
     std::vector<std::string> listed(const char* name) const
@@ -89,14 +86,8 @@ TEST_F(FontDlg, AProgramMayChangeTheTables)
 
 TEST_F(FontDlg, TakesItsArgumentsAsADialogDoes)
 {
-    QWidget parent;
-    make(&parent, true, Qt::WDestructiveClose);
-    EXPECT_EQ(dialog->parentWidget(), &parent);
-    EXPECT_STREQ(dialog->name(), "dialog");
-    EXPECT_TRUE(dialog->isModal());
-    EXPECT_TRUE(dialog->testWFlags(Qt::WDestructiveClose));
+    expectTakesDialogArguments<ZelFontDlg>();
     make();
-    EXPECT_FALSE(dialog->isModal());
     EXPECT_EQ(dialog->caption(), "Choose font");
     EXPECT_EQ(dialog->minimumSize(), QSize(500, 200));
     EXPECT_EQ(dialog->maximumSize(), QSize(500, 200));
