@@ -47,9 +47,9 @@ void SignalTeller::tell()
     m_line->setText(m_text);
 }
 
-GalleryWindow::GalleryWindow()
-    : QWidget(0, "gallery"), m_status(new QLabel(this, "status")), m_left(margin), m_bottom(margin),
-      m_height(0)
+GalleryWindow::GalleryWindow(bool moving)
+    : QWidget(0, "gallery"), m_moving(moving), m_status(new QLabel(this, "status")), m_left(margin),
+      m_bottom(margin), m_height(0)
 {
     setCaption("zelkit gallery");
     m_status->setFrameStyle(QFrame::Panel | QFrame::Sunken);

@@ -31,7 +31,10 @@ class GalleryWindow : public QWidget
     Q_OBJECT
 
 public:
-    GalleryWindow();
+    // With `moving` the graphs run; else they stand still, which gives the same pictures each time.
+    explicit GalleryWindow(bool moving = true);
+
+    bool isMoving() const { return m_moving; }
 
     // Adds a row of that height (pixels) under the others, or at the top of a new column when it does not fit
     // there any more, and returns the area for its widgets.
@@ -51,6 +54,7 @@ public slots:
     void tellChoice(const QString& what);
 
 private:
+    bool m_moving;
     QLabel* m_status;
     std::vector<QWidget*> m_stops;
     // Where the next row begins.

@@ -9,13 +9,13 @@
 namespace
 {
 
-// Fills its graph with two waves at the first tick and gives it a sample more at each further one. Where the
-// graph shows a rate, what it is given counts up by the waves.
+// Fills its graph with two waves at the first tick and, if it moves, gives it a sample more at each further
+// one. Where the graph shows a rate, what it is given counts up by the waves.
 class Waves : public QObject
 {
 public:
-    Waves(ZelGraph* graph, bool counting)
-        : QObject(graph), m_graph(graph), m_counting(counting), m_count(0), m_step(0)
+    Waves(ZelGraph* graph, bool counting, bool moving)
+        : QObject(graph), m_graph(graph), m_counting(counting), m_moving(moving), m_count(0), m_step(0)
     {
         startTimer(40);
     }
@@ -23,12 +23,25 @@ public:
 protected:
     void timerEvent(QTimerEvent*)
     {
-        do
+        if (m_step == 0)
+            fill();
+        else
             addSample();
-        while (m_step < m_graph->width());
+        if (!m_moving)
+            killTimers();
     }
 
 private:
+    // The graph is painted once, and no second passes on the way.
+    void fill()
+    {
+        m_graph->setUpdatesEnabled(false);
+        while (m_step < m_graph->width())
+            addSample();
+        m_graph->setUpdatesEnabled(true);
+        m_graph->repaint(false);
+    }
+
     void addSample()
     {
         ++m_step;
@@ -38,7 +51,7 @@ private:
     }
 
     ZelGraph* m_graph;
-    bool m_counting;
+    bool m_counting, m_moving;
     int m_count;
     int m_step;
 };
@@ -69,7 +82,7 @@ void addGraphRow(GalleryWindow& gallery)
         graph->setGeometry(place % perLine * (width + gap), place / perLine * (height + gap), width, height);
         graph->setGraphParameters(0, 100, 5, 20, entry.bars, entry.rate, entry.automatic, Qt::black,
                                   entry.color, QColor(0, 90, 0));
-        new Waves(graph, entry.rate);
+        new Waves(graph, entry.rate, gallery.isMoving());
         gallery.watch(graph, SIGNAL(mousePress(QMouseEvent*)));
         ++place;
     }

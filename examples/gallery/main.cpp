@@ -49,7 +49,7 @@ int main(int argc, char** argv)
         return 2;
     }
 
-    GalleryWindow window;
+    GalleryWindow window(tourFolder.empty());
     for (const AddRow addRow : galleryRows)
         addRow(window);
     window.finish();
