@@ -103,15 +103,41 @@ TEST_F(ScrollBar, HeldPagesStopAtThePointer)
     EXPECT_EQ(bar.value(), value);
 }
 
-TEST_F(ScrollBar, HidingEndsWhatIsHeld)
+// The button goes up while nobody sees the bar.
+TEST_F(ScrollBar, HidingLetsGoOfTheArrow)
 {
+    const Pixels atRest = Pixels::of(&bar).part(186, 0, 14, 16);
     xinput::moveTo(&bar, 192, 8);
     xinput::pressButton();
     EXPECT_TRUE(waitFor([&] { return bar.value() >= 45; }));
+    EXPECT_NE(atRest, Pixels::of(&bar).part(186, 0, 14, 16));
     bar.hide();
     const int value = bar.value();
     EXPECT_FALSE(waitFor([&] { return bar.value() != value; }, 200));
     xinput::releaseButton();
+    settle();
+    bar.show();
+    EXPECT_EQ(atRest, Pixels::of(&bar).part(186, 0, 14, 16));
+    EXPECT_EQ(bar.value(), value);
+    heard();
+    xinput::click(&bar, 8, 8);
+    EXPECT_EQ(heard(), "valueChanged(" + std::to_string(value - 5) + ") prevLine");
+}
+
+TEST_F(ScrollBar, HidingLetsGoOfTheSlider)
+{
+    xinput::moveTo(&bar, middle(), 8);
+    xinput::pressButton();
+    EXPECT_EQ(heard(), "sliderPressed");
+    EXPECT_TRUE(bar.draggingSlider());
+    bar.hide();
+    EXPECT_FALSE(bar.draggingSlider());
+    bar.show();
+    settle();
+    xinput::moveTo(&bar, middle() + 40, 8);
+    xinput::releaseButton();
+    EXPECT_EQ(heard(), "");
+    EXPECT_EQ(bar.value(), 30);
 }
 
 TEST_F(ScrollBar, AClickBesideTheSliderTurnsAPage)
