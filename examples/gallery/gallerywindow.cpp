@@ -92,7 +92,7 @@ void GalleryWindow::finish()
         enlargeChildren(this, factor);
     setFixedSize(qRound((right + margin) * factor), qRound((m_height + statusHeight + margin) * factor));
     const QRect screen = QApplication::desktop()->geometry();
-    move((screen.width() - width()) / 2, std::max((screen.height() - height()) / 2, 0));
+    move(std::max((screen.width() - width()) / 2, 0), std::max((screen.height() - height()) / 2, 0));
 }
 
 void GalleryWindow::tellChoice(const QString& what)

@@ -13,7 +13,7 @@
 namespace
 {
 
-const int panelsPerLine = 2;
+const int columnCount = 2;
 
 long long steadyMilliseconds()
 {
@@ -43,14 +43,16 @@ MonitorWindow::MonitorWindow(const std::string& folder) : QWidget(nullptr, "moni
     };
     setCaption("zelkit monitor");
     QVBoxLayout* const lines = new QVBoxLayout(this, 10, 10);
-    QHBoxLayout* line = nullptr;
+    QHBoxLayout* const columns = new QHBoxLayout(14);
+    lines->addLayout(columns, 1);
+    QVBoxLayout* column[columnCount];
+    for (QVBoxLayout*& each : column) {
+        each = new QVBoxLayout(10);
+        columns->addLayout(each, 1);
+    }
     for (const auto& entry : panels) {
-        if (!line || m_entries.size() % panelsPerLine == 0) {
-            line = new QHBoxLayout(14);
-            lines->addLayout(line, 1);
-        }
         Panel* const panel = new Panel(this, entry.looks);
-        line->addWidget(panel, 1);
+        column[m_entries.size() % columnCount]->addWidget(panel, 1);
         m_entries.push_back({entry.makeMeter(folder, steadyMilliseconds()), panel});
     }
     QCheckBox* const bars = new QCheckBox("&Bars", this, "bars");

@@ -61,6 +61,21 @@ TEST_F(Gallery, fitsOnASmallScreenAndNothingOverlaps)
     }
 }
 
+TEST_F(Gallery, isInTheMiddleOrWhereItBeginsWhenItIsTooLarge)
+{
+    EXPECT_EQ(window.pos(), QPoint((1024 - window.width()) / 2, (768 - window.height()) / 2));
+    const QFont before = QApplication::font();
+    QApplication::setFont(QFont("DejaVu Sans", 30));
+    GalleryWindow large;
+    for (const AddRow addRow : galleryRows)
+        addRow(large);
+    large.finish();
+    EXPECT_GT(large.width(), 1024);
+    EXPECT_GT(large.height(), 768);
+    EXPECT_EQ(large.pos(), QPoint(0, 0));
+    QApplication::setFont(before);
+}
+
 TEST_F(Gallery, tellsASignalOnItsLastLine)
 {
     click("Copy");

@@ -3,6 +3,7 @@
 #include "faketime.h"
 #include "hands.h"
 #include "monitorwindow.h"
+#include "panel.h"
 #include "pixels.h"
 #include "printers.h"
 #include "waiting.h"
@@ -182,6 +183,19 @@ TEST_F(Monitor, SharesTheWindowBetweenTheGraphs)
     EXPECT_GE(graph("Processor (%)")->height(), 50);
     const QWidget* const last = panel("Disks (% busy)");
     EXPECT_TRUE(window.rect().contains(last->geometry()));
+}
+
+TEST_F(Monitor, KeepsItsColumnsStraightWhenTheCaptionsNeedTheRoom)
+{
+    QFont large("DejaVu Sans");
+    large.setPixelSize(40);
+    for (const char* caption : {"Processor (%)", "Memory (%)", "Network (KiB/s)", "Disks (% busy)"})
+        static_cast<Panel*>(panel(caption))->setCaptionFont(large);
+    window.resize(1, 1);
+    settle();
+    EXPECT_EQ(graph("Network (KiB/s)")->width(), graph("Processor (%)")->width());
+    EXPECT_EQ(panel("Disks (% busy)")->x(), panel("Memory (%)")->x());
+    EXPECT_EQ(graph("Disks (% busy)")->width(), graph("Memory (%)")->width());
 }
 
 TEST_F(Monitor, KeepsTheGraphsWhileTheValuesChange)
