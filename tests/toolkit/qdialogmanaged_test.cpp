@@ -37,7 +37,7 @@ protected:
     void clickOnceUncovered()
     {
         const QPoint place = button.mapToGlobal(QPoint(50, 15));
-        EXPECT_TRUE(waitFor([&] { return QApplication::widgetAt(place) == &button; }));
+        EXPECT_TRUE(waitFor([&] { return QApplication::widgetAt(place, true) == &button; }));
         xinput::click(&button, 50, 15);
     }
 
