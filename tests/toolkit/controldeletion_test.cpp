@@ -12,6 +12,7 @@
 #include <qlineedit.h>
 #include <qlistbox.h>
 #include <qscrollbar.h>
+#include <qscrollview.h>
 #include <qvalidator.h>
 
 #include <X11/keysym.h>
@@ -292,6 +293,11 @@ TEST_F(ControlDeletion, OfAListBox)
         l->blockSignals(false);
         sendKey(l, Qt::Key_Space);
     };
+    const auto last = [](QListBox* l) {
+        for (int i = 0; i < 20; ++i)
+            l->insertItem("Another");
+        l->setCurrentItem(22);
+    };
     const Case<QListBox> cases[] = {
         {SIGNAL(highlighted(int)), down},
         {SIGNAL(highlighted(const QString&)), down},
@@ -307,6 +313,8 @@ TEST_F(ControlDeletion, OfAListBox)
         {SIGNAL(clicked(QListBoxItem*)), press},
         {SIGNAL(clicked(QListBoxItem*, const QPoint&)), press},
         {SIGNAL(mouseButtonClicked(int, QListBoxItem*, const QPoint&)), press},
+        {SIGNAL(highlighted(int)), right},
+        {SIGNAL(selectionChanged()), right},
         {SIGNAL(rightButtonPressed(QListBoxItem*, const QPoint&)), right},
         {SIGNAL(rightButtonClicked(QListBoxItem*, const QPoint&)), right},
         {SIGNAL(contextMenuRequested(QListBoxItem*, const QPoint&)), right},
@@ -320,6 +328,7 @@ TEST_F(ControlDeletion, OfAListBox)
         {SIGNAL(selectionChanged()), [](QListBox* l) { l->setSelectionMode(QListBox::Multi); }},
         {SIGNAL(highlighted(int)), [](QListBox* l) { l->removeItem(0); }},
         {SIGNAL(highlighted(int)), [](QListBox* l) { l->changeItem("new", 0); }},
+        {SIGNAL(contentsMoving(int, int)), last},
         {SIGNAL(onItem(QListBoxItem*)),
          [](QListBox* l) { l->viewport()->setMouseTracking(true), xinput::moveTo(l->viewport(), 10, 20); }}};
     int number = 0;
@@ -352,28 +361,28 @@ TEST_F(ControlDeletion, OfAScrollBar)
         };
     };
     const auto middle = [](QScrollBar* b) { xinput::click(b, 90, 8, 2); };
-    const Case<QScrollBar> cases[] = {{value, click(5)},
-                                      {SIGNAL(prevLine()), click(5)},
-                                      {value, click(115)},
-                                      {SIGNAL(nextLine()), click(115)},
-                                      {value, click(20)},
-                                      {SIGNAL(prevPage()), click(20)},
-                                      {value, click(100)},
-                                      {SIGNAL(nextPage()), click(100)},
-                                      {SIGNAL(sliderPressed()), hold(60)},
-                                      {SIGNAL(sliderMoved(int)), hold(60)},
-                                      {value, hold(60)},
-                                      {SIGNAL(sliderReleased()), hold(60)},
-                                      {value, [hold](QScrollBar* b) { b->setTracking(false), hold(60)(b); }},
-                                      {value, middle},
-                                      {SIGNAL(sliderPressed()), middle},
-                                      {value, [](QScrollBar* b) { sendKey(b, Qt::Key_Right); }},
-                                      {value, [](QScrollBar* b) { sendKey(b, Qt::Key_End); }},
-                                      {value, [](QScrollBar* b) { b->setRange(60, 100); }},
-                                      {value, [](QScrollBar* b) {
-                                           xinput::moveTo(b, 60, 8), xinput::pressButton(5),
-                                               xinput::releaseButton(5);
-                                       }}};
+    const Case<QScrollBar> cases[] = {
+        {value, click(5)},
+        {SIGNAL(prevLine()), click(5)},
+        {value, click(115)},
+        {SIGNAL(nextLine()), click(115)},
+        {value, click(20)},
+        {SIGNAL(prevPage()), click(20)},
+        {value, click(100)},
+        {SIGNAL(nextPage()), click(100)},
+        {SIGNAL(sliderPressed()), hold(60)},
+        {SIGNAL(sliderMoved(int)), hold(60)},
+        {value, hold(60)},
+        {SIGNAL(sliderReleased()), hold(60)},
+        {SIGNAL(sliderReleased()), [hold](QScrollBar* b) { b->setTracking(false), hold(60)(b); }},
+        {value, [hold](QScrollBar* b) { b->setTracking(false), hold(60)(b); }},
+        {value, middle},
+        {SIGNAL(sliderPressed()), middle},
+        {value, [](QScrollBar* b) { sendKey(b, Qt::Key_Right); }},
+        {value, [](QScrollBar* b) { sendKey(b, Qt::Key_End); }},
+        {value, [](QScrollBar* b) { b->setRange(60, 100); }},
+        {value,
+         [](QScrollBar* b) { xinput::moveTo(b, 60, 8), xinput::pressButton(5), xinput::releaseButton(5); }}};
     int number = 0;
     for (const auto& each : cases) {
         SCOPED_TRACE(number++);
@@ -381,6 +390,33 @@ TEST_F(ControlDeletion, OfAScrollBar)
         bar->setFixedHeight(16);
         bar->setFocusPolicy(QWidget::StrongFocus);
         check<QScrollBar>(bar, each);
+    }
+}
+
+TEST_F(ControlDeletion, OfAScrollView)
+{
+    const char* const moving = SIGNAL(contentsMoving(int, int));
+    const auto scrolled = [](QScrollView* v) {
+        v->blockSignals(true);
+        v->setContentsPos(50, 60);
+        v->blockSignals(false);
+    };
+    const Case<QScrollView> cases[] = {
+        {moving, [](QScrollView* v) { v->setContentsPos(50, 0); }},
+        {moving, [](QScrollView* v) { v->setContentsPos(50, 60); }},
+        {moving, [](QScrollView* v) { v->setContentsPos(0, 60); }},
+        {moving, [](QScrollView* v) { v->ensureVisible(400, 300); }},
+        {moving, [](QScrollView* v) { xinput::click(v->verticalScrollBar(), 8, 80); }},
+        {moving, [=](QScrollView* v) { scrolled(v), v->resizeContents(10, 500); }},
+        {moving, [=](QScrollView* v) { scrolled(v), v->resizeContents(500, 10); }},
+        {moving, [=](QScrollView* v) { scrolled(v), v->resize(600, 60); }}};
+    int number = 0;
+    for (const auto& each : cases) {
+        SCOPED_TRACE(number++);
+        QScrollView* view = new Perishable<QScrollView>(&window);
+        view->resizeContents(500, 400);
+        view->setMinimumHeight(100);
+        check<QScrollView>(view, each);
     }
 }
 
