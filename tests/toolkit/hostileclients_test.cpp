@@ -103,9 +103,22 @@ QString textFrom(const Owner::Answer& answer)
 
 } // namespace
 
-TEST(HostileOwner, WhoNeverAnswersIsNotWaitedForForEver)
+TEST(HostileOwner, WhoNeverAnswersIsAskedOnceOnly)
 {
-    EXPECT_TRUE(textFrom([](Owner&, const XSelectionRequestEvent&) {}).isNull());
+    std::atomic<int> questions{0};
+    EXPECT_TRUE(textFrom([&](Owner&, const XSelectionRequestEvent&) { ++questions; }).isNull());
+    EXPECT_EQ(1, questions);
+}
+
+TEST(HostileOwner, WhoRefusesOneKindOfTextIsAskedForTheOther)
+{
+    EXPECT_EQ(QString("old"), textFrom([](Owner& owner, XSelectionRequestEvent r) {
+                  if (r.target == XA_STRING)
+                      owner.set(r, XA_STRING, 8, "old");
+                  else
+                      r.property = None;
+                  owner.notify(r);
+              }));
 }
 
 TEST(HostileOwner, WhoDiesWhenAskedHasNoText)

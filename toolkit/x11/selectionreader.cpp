@@ -83,15 +83,18 @@ bool readPieces(Atom name, Property* whole)
     return false;
 }
 
-bool request(Atom selection, Atom target, std::string* utf8)
+enum class Answer { Text, NoText, Silence };
+
+Answer request(Atom selection, Atom target, std::string* utf8)
 {
     Atom name = atom("_ZELTK_SELECTION");
     XDeleteProperty(display(), selectionWindow(), name);
     XConvertSelection(display(), selection, target, name, selectionWindow(), CurrentTime);
     XEvent event;
-    if (!waitFor(&event, isAnswer, nullptr) || event.xselection.property == XNone ||
-        event.xselection.target != target)
-        return false;
+    if (!waitFor(&event, isAnswer, nullptr))
+        return Answer::Silence;
+    if (event.xselection.property == XNone || event.xselection.target != target)
+        return Answer::NoText;
     // Only what comes after the first part is a piece.
     XSync(display(), False);
     XEvent old;
@@ -99,9 +102,9 @@ bool request(Atom selection, Atom target, std::string* utf8)
         ;
     Property property = takeProperty(name);
     if (property.type == atom("INCR") && !readPieces(name, &property))
-        return false;
+        return Answer::Silence;
     *utf8 = property.type == XA_STRING ? utf8FromLatin1(property.bytes) : property.bytes;
-    return property.type == XA_STRING || property.type == atom("UTF8_STRING");
+    return property.type == XA_STRING || property.type == atom("UTF8_STRING") ? Answer::Text : Answer::NoText;
 }
 
 } // namespace
@@ -126,11 +129,15 @@ bool waitForNews(long deadline)
     return true;
 }
 
+// An owner that refuses one kind of text may have the other; one that says nothing is not asked again.
 bool requestText(Atom selection, std::string* utf8)
 {
     if (XGetSelectionOwner(display(), selection) == XNone)
         return false;
-    return request(selection, atom("UTF8_STRING"), utf8) || request(selection, XA_STRING, utf8);
+    const Answer answer = request(selection, atom("UTF8_STRING"), utf8);
+    if (answer == Answer::NoText)
+        return request(selection, XA_STRING, utf8) == Answer::Text;
+    return answer == Answer::Text;
 }
 
 std::string latin1FromUtf8(const std::string& utf8)
