@@ -1,6 +1,7 @@
 // A program of the Qt 3 days that uses more of Qt than the bundled toolkit has: what is missing is listed in
 // expected.
 #include "board.h"
+#include "settings.h"
 
 #include <qapplication.h>
 #include <qmessagebox.h>

@@ -1,6 +1,7 @@
 #include "board.h"
 
 #include <qlineedit.h>
+#include <counting/counter.h>
 #include <qpainter.h>
 #include <qprogressbar.h>
 
