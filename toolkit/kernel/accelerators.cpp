@@ -16,7 +16,6 @@ namespace
 {
 
 struct Accelerator {
-    int id;
     QWidget* widget;
     int key;
     AcceleratorTarget* target;
@@ -26,13 +25,6 @@ std::vector<Accelerator>& accelerators()
 {
     static std::vector<Accelerator> all;
     return all;
-}
-
-template <typename Condition>
-void removeIf(Condition condition)
-{
-    std::vector<Accelerator>& all = accelerators();
-    all.erase(std::remove_if(all.begin(), all.end(), condition), all.end());
 }
 
 // The pressed key with its modifiers in the form of an accelerator.
@@ -50,21 +42,17 @@ int codeOf(const QKeyEvent* key)
 
 } // namespace
 
-int addAccelerator(QWidget* widget, int key, AcceleratorTarget* target)
+void addAccelerator(QWidget* widget, int key, AcceleratorTarget* target)
 {
-    static int lastId = 0;
-    accelerators().push_back({++lastId, widget, key, target});
-    return lastId;
-}
-
-void removeAccelerator(int id)
-{
-    removeIf([id](const Accelerator& a) { return a.id == id; });
+    accelerators().push_back({widget, key, target});
 }
 
 void removeAccelerators(AcceleratorTarget* target)
 {
-    removeIf([target](const Accelerator& a) { return a.target == target; });
+    std::vector<Accelerator>& all = accelerators();
+    all.erase(
+        std::remove_if(all.begin(), all.end(), [target](const Accelerator& a) { return a.target == target; }),
+        all.end());
 }
 
 bool activateAccelerator(QWidget* window, QKeyEvent* key)

@@ -17,9 +17,8 @@ public:
 };
 
 // `key` is a Qt key code with modifiers (Qt::ALT + Qt::Key_O). The widget must be visible and enabled for
-// the key to act. Returns an identifier greater than 0.
-int addAccelerator(QWidget* widget, int key, AcceleratorTarget* target);
-void removeAccelerator(int id);
+// the key to act.
+void addAccelerator(QWidget* widget, int key, AcceleratorTarget* target);
 // All of a target's; for destructors.
 void removeAccelerators(AcceleratorTarget* target);
 

@@ -4,7 +4,7 @@
 
 void QWidget::setMask(const QRegion& region)
 {
-    std::vector<zeltk::x11::ClipRect> shape;
+    std::vector<zeltk::x11::Box> shape;
     const QMemArray<QRect> parts = region.rects();
     for (uint i = 0; i < parts.size(); ++i) {
         const QRect& part = parts.at(i);

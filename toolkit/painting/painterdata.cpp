@@ -86,7 +86,7 @@ QWMatrix viewMatrix(const QRect& window, const QRect& viewport)
 
 x11::Clip clipOf(const QRegion& region)
 {
-    auto rects = std::make_shared<std::vector<x11::ClipRect>>();
+    auto rects = std::make_shared<std::vector<x11::Box>>();
     const QMemArray<QRect> parts = region.rects();
     for (uint i = 0; i < parts.size(); ++i)
         rects->push_back({parts.at(i).x(), parts.at(i).y(), parts.at(i).width(), parts.at(i).height()});

@@ -4,6 +4,7 @@
 #include "x11/blend.h"
 #include "x11/colorcells.h"
 #include "x11/xlib.h"
+#include "x11/xrectangles.h"
 
 namespace zeltk
 {
@@ -76,17 +77,14 @@ std::vector<unsigned char> readAlpha(XId alpha, int width, int height)
     return values;
 }
 
-void blendArea(XId from, XId alpha, XId to, const std::vector<ClipRect>* clip, int sx, int sy, int width,
+void blendArea(XId from, XId alpha, XId to, const std::vector<Box>* clip, int sx, int sy, int width,
                int height, int dx, int dy)
 {
     const PictureOf source(from, screenFormat());
     const PictureOf mask(alpha, XRenderFindStandardFormat(display(), PictStandardA8));
     const PictureOf target(to, screenFormat());
     if (clip) {
-        std::vector<XRectangle> rects;
-        for (const ClipRect& r : *clip)
-            rects.push_back({static_cast<short>(r.x), static_cast<short>(r.y),
-                             static_cast<unsigned short>(r.width), static_cast<unsigned short>(r.height)});
+        const std::vector<XRectangle> rects = xRectangles(*clip);
         XRenderSetPictureClipRectangles(display(), target.id, 0, 0, rects.data(),
                                         static_cast<int>(rects.size()));
     }

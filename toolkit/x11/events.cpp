@@ -57,27 +57,23 @@ void readKey(XKeyEvent* key, Event* event)
     }
 }
 
-void readButton(const XButtonEvent& button, Event* event)
+// What events of buttons, motions and crossings have in common.
+template <typename PointerEvent>
+void readPointer(const PointerEvent& pointer, Event::Type type, Event* event)
 {
-    event->type = button.type == ButtonPress ? Event::ButtonDown : Event::ButtonUp;
-    noteTime(button.time, event);
-    event->x = button.x;
-    event->y = button.y;
-    event->rootX = button.x_root;
-    event->rootY = button.y_root;
-    event->state = button.state;
-    event->button = button.button;
+    event->type = type;
+    noteTime(pointer.time, event);
+    event->x = pointer.x;
+    event->y = pointer.y;
+    event->rootX = pointer.x_root;
+    event->rootY = pointer.y_root;
+    event->state = pointer.state;
 }
 
-void readMotion(const XMotionEvent& motion, Event* event)
+void readButton(const XButtonEvent& button, Event* event)
 {
-    event->type = Event::Motion;
-    noteTime(motion.time, event);
-    event->x = motion.x;
-    event->y = motion.y;
-    event->rootX = motion.x_root;
-    event->rootY = motion.y_root;
-    event->state = motion.state;
+    readPointer(button, button.type == ButtonPress ? Event::ButtonDown : Event::ButtonUp, event);
+    event->button = button.button;
 }
 
 // Whether the pointer really comes or goes: not when it passes through to a window further inside or outside,
@@ -94,14 +90,8 @@ bool isCrossing(const XCrossingEvent& crossing)
 void readCrossing(const XCrossingEvent& crossing, Event* event)
 {
     noteTime(crossing.time, event);
-    if (!isCrossing(crossing))
-        return;
-    event->type = crossing.type == EnterNotify ? Event::EnterWindow : Event::LeaveWindow;
-    event->x = crossing.x;
-    event->y = crossing.y;
-    event->rootX = crossing.x_root;
-    event->rootY = crossing.y_root;
-    event->state = crossing.state;
+    if (isCrossing(crossing))
+        readPointer(crossing, crossing.type == EnterNotify ? Event::EnterWindow : Event::LeaveWindow, event);
 }
 
 void readFocus(const XFocusChangeEvent& focus, Event* event)
@@ -151,7 +141,7 @@ void translate(XEvent* x, Event* event)
         readButton(x->xbutton, event);
         break;
     case MotionNotify:
-        readMotion(x->xmotion, event);
+        readPointer(x->xmotion, Event::Motion, event);
         break;
     case EnterNotify:
     case LeaveNotify:
@@ -235,7 +225,7 @@ void compressMotion(Event* event)
             next.xmotion.state != event->state)
             return;
         XNextEvent(display(), &next);
-        readMotion(next.xmotion, event);
+        readPointer(next.xmotion, Event::Motion, event);
     }
 }
 

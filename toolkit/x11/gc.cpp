@@ -2,6 +2,7 @@
 #include "x11/gc.h"
 
 #include "x11/xlib.h"
+#include "x11/xrectangles.h"
 
 namespace zeltk
 {
@@ -56,10 +57,7 @@ void set(GcSlot* slot, const GcKey& key)
     if (!key.dashes.empty())
         XSetDashes(display(), slot->gc, 0, key.dashes.data(), static_cast<int>(key.dashes.size()));
     if (key.clip) {
-        std::vector<XRectangle> rects;
-        for (const ClipRect& r : *key.clip)
-            rects.push_back({static_cast<short>(r.x), static_cast<short>(r.y),
-                             static_cast<unsigned short>(r.width), static_cast<unsigned short>(r.height)});
+        std::vector<XRectangle> rects = xRectangles(*key.clip);
         XSetClipRectangles(display(), slot->gc, 0, 0, rects.data(), static_cast<int>(rects.size()),
                            XUnsorted);
     } else if (wasClipped) {
@@ -104,15 +102,13 @@ GcSlot* gcFor(const GcKey& key)
         if (slot.key.bitmap == key.bitmap && (!oldest || slot.lastUse < oldest->lastUse))
             oldest = &slot;
     }
-    if (slots.size() < storeSize || !oldest) {
-        if (slots.size() == storeSize) {
-            XFreeGC(display(), slots.back().gc);
-            slots.back().gc = nullptr;
-            oldest = &slots.back();
-        } else {
-            slots.emplace_back();
-            oldest = &slots.back();
-        }
+    if (slots.size() < storeSize) {
+        slots.emplace_back();
+        oldest = &slots.back();
+    } else if (!oldest) { // none has the right depth
+        oldest = &slots.back();
+        XFreeGC(display(), oldest->gc);
+        oldest->gc = nullptr;
     }
     set(oldest, key);
     oldest->lastUse = ++uses;

@@ -3,7 +3,7 @@
 #define ZELTK_X11_GC_H
 
 #include "x11/connection.h"
-#include "x11/cliprect.h"
+#include "x11/box.h"
 
 #include <memory>
 #include <vector>
@@ -39,7 +39,7 @@ enum CapStyle { CapFlat = 1, CapRounded = 2, CapSquare = 3 };
 enum JoinStyle { JoinMitered, JoinRounded, JoinBeveled };
 enum FillStyle { FillWithColor, FillWithTile, FillWithStipple, FillWithOpaqueStipple };
 
-using Clip = std::shared_ptr<const std::vector<ClipRect>>;
+using Clip = std::shared_ptr<const std::vector<Box>>;
 
 struct GcKey {
     unsigned long foreground = 0; // pixel values

@@ -1,6 +1,7 @@
 // What keys mean: symbols and text, through the user's input method.
 #include "x11/keys.h"
 
+#include "x11/latin1.h"
 #include "x11/selectionprivate.h"
 #include "x11/xlib.h"
 

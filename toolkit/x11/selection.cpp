@@ -1,6 +1,7 @@
 // Owning selections: the answers to those who ask for them.
 #include "x11/selection.h"
 
+#include "x11/latin1.h"
 #include "x11/selectionprivate.h"
 
 #include <algorithm>

@@ -20,9 +20,6 @@ bool requestText(Atom selection, std::string* utf8);
 bool waitForNews(long deadline);
 long clockMilliseconds();
 
-std::string latin1FromUtf8(const std::string& utf8);
-std::string utf8FromLatin1(const std::string& latin1);
-
 // Answers requests and goes on with transfers while the program waits for a selection itself.
 void serveRequests();
 

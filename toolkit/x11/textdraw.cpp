@@ -7,6 +7,7 @@
 #include "x11/fontface.h"
 #include "x11/textdraw.h"
 #include "x11/xlib.h"
+#include "x11/xrectangles.h"
 
 #include <algorithm>
 #include <cmath>
@@ -66,16 +67,13 @@ XftColor inkOf(std::uint32_t rgb, bool bitmap)
     return color;
 }
 
-void setClip(XftDraw* draw, const std::vector<ClipRect>* clip)
+void setClip(XftDraw* draw, const std::vector<Box>* clip)
 {
     if (!clip) {
         XftDrawSetClip(draw, nullptr);
         return;
     }
-    std::vector<XRectangle> rects;
-    for (const ClipRect& r : *clip)
-        rects.push_back({static_cast<short>(r.x), static_cast<short>(r.y),
-                         static_cast<unsigned short>(r.width), static_cast<unsigned short>(r.height)});
+    const std::vector<XRectangle> rects = xRectangles(*clip);
     XftDrawSetClipRectangles(draw, 0, 0, rects.data(), static_cast<int>(rects.size()));
 }
 
@@ -175,7 +173,7 @@ size_t oneRequest(const std::vector<Glyph>& specs, size_t first)
 }
 
 // What all glyphs together take up, boxes included.
-ClipRect placeOf(const TextPiece& text, XftFont* face)
+Box placeOf(const TextPiece& text, XftFont* face)
 {
     int left = 0;
     int top = 0;
@@ -201,7 +199,7 @@ ClipRect placeOf(const TextPiece& text, XftFont* face)
 
 void fillThroughMask(XId drawable, GcKey key, const TextPiece& text, XftFont* face)
 {
-    const ClipRect place = placeOf(text, face);
+    const Box place = placeOf(text, face);
     if (place.width <= 0 || place.height <= 0)
         return;
     const XId mask = textMask(text, place);
@@ -214,13 +212,13 @@ void fillThroughMask(XId drawable, GcKey key, const TextPiece& text, XftFont* fa
 
 // Without shades, for screens where these cannot be mixed.
 void drawThroughMasks(XId drawable, const TextPiece& text, XftFont* face, std::uint32_t color,
-                      const std::vector<ClipRect>* clip)
+                      const std::vector<Box>* clip)
 {
     GcKey key;
     key.foreground = pixelOf(color);
     key.fill = FillWithStipple;
     if (clip)
-        key.clip = std::make_shared<const std::vector<ClipRect>>(*clip);
+        key.clip = std::make_shared<const std::vector<Box>>(*clip);
     std::vector<PlacedGlyph> glyphs = text.glyphs;
     glyphs.erase(std::remove_if(glyphs.begin(), glyphs.end(), isOut), glyphs.end());
     for (size_t i = 0, step; i < glyphs.size(); i += step) {
@@ -231,6 +229,21 @@ void drawThroughMasks(XId drawable, const TextPiece& text, XftFont* face, std::u
     }
 }
 
+// A new bitmap with the pixels that are lighter than half.
+XId bitmapOfLight(XId canvas, int width, int height)
+{
+    const std::vector<std::uint32_t> pixels = readPixels(canvas, false, 0, 0, width, height);
+    const size_t rowBytes = (static_cast<size_t>(width) + 7) / 8;
+    std::vector<unsigned char> bits(rowBytes * static_cast<size_t>(height), 0);
+    for (size_t i = 0; i < pixels.size(); ++i) {
+        const size_t row = i / static_cast<size_t>(width);
+        const size_t column = i % static_cast<size_t>(width);
+        if ((pixels[i] & 0xff) >= 128)
+            bits[row * rowBytes + column / 8] |= static_cast<unsigned char>(1 << column % 8);
+    }
+    return createBitmap(bits.data(), width, height);
+}
+
 } // namespace
 
 bool LetterMatrix::operator==(const LetterMatrix& other) const
@@ -239,7 +252,7 @@ bool LetterMatrix::operator==(const LetterMatrix& other) const
 }
 
 void drawText(XId drawable, bool bitmap, const TextPiece& text, std::uint32_t color,
-              const std::vector<ClipRect>* clip)
+              const std::vector<Box>* clip)
 {
     if (!text.font)
         return;
@@ -269,10 +282,8 @@ void drawText(XId drawable, bool bitmap, const TextPiece& text, std::uint32_t co
     }
 }
 
-XId textMask(const TextPiece& text, const ClipRect& place)
+XId textMask(const TextPiece& text, const Box& place)
 {
-    const auto w = static_cast<unsigned>(place.width);
-    const auto h = static_cast<unsigned>(place.height);
     TextPiece moved = text;
     for (PlacedGlyph& glyph : moved.glyphs) {
         glyph.x -= place.x;
@@ -291,18 +302,9 @@ XId textMask(const TextPiece& text, const ClipRect& place)
     black.foreground = pixelOf(0x000000);
     fillRectangle(canvas, gcFor(black), 0, 0, place.width, place.height);
     drawText(canvas, false, moved, 0xffffff, nullptr);
-    XImage* image = XGetImage(display(), canvas, 0, 0, w, h, AllPlanes, ZPixmap);
+    const XId mask = bitmapOfLight(canvas, place.width, place.height);
     freePixmap(canvas);
-
-    const unsigned rowBytes = (w + 7) / 8;
-    std::vector<char> bits(rowBytes * h, 0);
-    for (unsigned row = 0; image && row < h; ++row)
-        for (unsigned column = 0; column < w; ++column)
-            if ((colorOf(XGetPixel(image, static_cast<int>(column), static_cast<int>(row))) & 0xff) >= 128)
-                bits[row * rowBytes + column / 8] |= static_cast<char>(1 << column % 8);
-    if (image)
-        XDestroyImage(image);
-    return XCreateBitmapFromData(display(), rootWindow(), bits.data(), w, h);
+    return mask;
 }
 
 void forgetDrawable(XId drawable)

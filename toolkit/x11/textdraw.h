@@ -2,7 +2,7 @@
 #ifndef ZELTK_X11_TEXTDRAW_H
 #define ZELTK_X11_TEXTDRAW_H
 
-#include "x11/cliprect.h"
+#include "x11/box.h"
 #include "x11/fonts.h"
 
 #include <cstdint>
@@ -38,9 +38,9 @@ struct TextPiece {
 // The colour is 0xRRGGBB. `bitmap`: the drawable has depth 1, and the colour is 0 or 1. A null clip means all
 // of the drawable.
 void drawText(XId drawable, bool bitmap, const TextPiece& text, std::uint32_t color,
-              const std::vector<ClipRect>* clip);
+              const std::vector<Box>* clip);
 // A new bitmap of that place with the pixels that the text covers by half or more; the caller frees it.
-XId textMask(const TextPiece& text, const ClipRect& place);
+XId textMask(const TextPiece& text, const Box& place);
 // Must be called before a drawable is freed.
 void forgetDrawable(XId drawable);
 

@@ -5,6 +5,7 @@
 #include "x11/gc.h"
 #include "x11/textdraw.h"
 #include "x11/xlib.h"
+#include "x11/xrectangles.h"
 
 #include <algorithm>
 
@@ -21,6 +22,17 @@ constexpr long commonEvents = KeyPressMask | KeyReleaseMask | ButtonPressMask | 
                               KeymapStateMask;
 constexpr long topLevelEvents = StructureNotifyMask | FocusChangeMask | PropertyChangeMask;
 
+constexpr unsigned long kindFields = CWEventMask | CWOverrideRedirect | CWSaveUnder;
+
+XSetWindowAttributes kindAttributes(bool topLevel, bool popup)
+{
+    XSetWindowAttributes attributes;
+    attributes.event_mask = commonEvents | (topLevel ? topLevelEvents : 0);
+    attributes.override_redirect = popup;
+    attributes.save_under = popup;
+    return attributes;
+}
+
 // Places are 16 bits on the wire. What lies further out stays out of sight instead of coming round.
 int onWire(int coordinate)
 {
@@ -31,18 +43,13 @@ int onWire(int coordinate)
 
 XId createWindow(XId parent, int x, int y, int width, int height, bool topLevel, bool popup)
 {
-    XSetWindowAttributes attributes;
-    attributes.event_mask = commonEvents | (topLevel ? topLevelEvents : 0);
-    attributes.override_redirect = popup;
-    attributes.save_under = popup;
+    XSetWindowAttributes attributes = kindAttributes(topLevel, popup);
     attributes.border_pixel = 0;
     attributes.bit_gravity = ForgetGravity;
     attributes.background_pixmap = XNone;
-    const unsigned long mask =
-        CWEventMask | CWOverrideRedirect | CWSaveUnder | CWBorderPixel | CWBitGravity | CWBackPixmap;
     return XCreateWindow(display(), parent, onWire(x), onWire(y), static_cast<unsigned>(width),
-                         static_cast<unsigned>(height), 0, CopyFromParent, InputOutput, CopyFromParent, mask,
-                         &attributes);
+                         static_cast<unsigned>(height), 0, CopyFromParent, InputOutput, CopyFromParent,
+                         kindFields | CWBorderPixel | CWBitGravity | CWBackPixmap, &attributes);
 }
 
 void destroyWindow(XId window)
@@ -89,11 +96,8 @@ void moveResizeWindow(XId window, int x, int y, int width, int height)
 
 void rehangWindow(XId window, XId parent, int x, int y, bool topLevel, bool popup)
 {
-    XSetWindowAttributes attributes;
-    attributes.event_mask = commonEvents | (topLevel ? topLevelEvents : 0);
-    attributes.override_redirect = popup;
-    attributes.save_under = popup;
-    XChangeWindowAttributes(display(), window, CWEventMask | CWOverrideRedirect | CWSaveUnder, &attributes);
+    XSetWindowAttributes attributes = kindAttributes(topLevel, popup);
+    XChangeWindowAttributes(display(), window, kindFields, &attributes);
     XReparentWindow(display(), window, parent, onWire(x), onWire(y));
 }
 
@@ -163,16 +167,13 @@ void scrollWindow(XId window, int sx, int sy, int width, int height, int dx, int
     XFreeGC(display(), gc);
 }
 
-void setShape(XId window, const std::vector<ClipRect>* shape)
+void setShape(XId window, const std::vector<Box>* shape)
 {
     if (!shape) {
         XShapeCombineMask(display(), window, ShapeBounding, 0, 0, XNone, ShapeSet);
         return;
     }
-    std::vector<XRectangle> rects;
-    for (const ClipRect& r : *shape)
-        rects.push_back({static_cast<short>(r.x), static_cast<short>(r.y),
-                         static_cast<unsigned short>(r.width), static_cast<unsigned short>(r.height)});
+    std::vector<XRectangle> rects = xRectangles(*shape);
     XShapeCombineRectangles(display(), window, ShapeBounding, 0, 0, rects.data(),
                             static_cast<int>(rects.size()), ShapeSet, XUnsorted);
 }

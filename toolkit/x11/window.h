@@ -3,7 +3,7 @@
 #define ZELTK_X11_WINDOW_H
 
 #include "x11/connection.h"
-#include "x11/cliprect.h"
+#include "x11/box.h"
 
 #include <cstdint>
 #include <vector>
@@ -42,17 +42,11 @@ void keepContents(XId window, bool keep);
 // Paints the background without an Expose event. Width and height must be positive.
 void clearArea(XId window, int x, int y, int width, int height);
 void scrollWindow(XId window, int sx, int sy, int width, int height, int dx, int dy);
-void setShape(XId window, const std::vector<ClipRect>* shape);
+void setShape(XId window, const std::vector<Box>* shape);
 
 // Asks the server for the place of the window's corner on the screen.
 bool rootPosition(XId window, int* x, int* y);
 
-struct Box {
-    int x;
-    int y;
-    int width;
-    int height;
-};
 // The window on the screen, and the window right inside the root that holds it: the window manager's frame,
 // or the window itself. Waits for the server.
 struct FramePlace {

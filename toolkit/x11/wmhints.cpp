@@ -28,6 +28,24 @@ void setLongs(XId window, const char* property, XId type, const std::vector<long
                     reinterpret_cast<const unsigned char*>(values.data()), static_cast<int>(values.size()));
 }
 
+// The first number of a property; false if there is none.
+bool readLong(XId window, const char* property, XId type, long* value)
+{
+    Atom found;
+    int format = 0;
+    unsigned long count = 0;
+    unsigned long rest;
+    unsigned char* data = nullptr;
+    const int status = XGetWindowProperty(display(), window, atom(property), 0, 1, False, type, &found,
+                                          &format, &count, &rest, &data);
+    const bool isThere = status == Success && format == 32 && count == 1;
+    if (isThere)
+        *value = *reinterpret_cast<const long*>(data);
+    if (data)
+        XFree(data);
+    return isThere;
+}
+
 void sendToRoot(XId window, const char* type, const std::vector<long>& values)
 {
     XEvent event = XEvent();
@@ -217,19 +235,8 @@ void requestState(XId window, unsigned bits, bool on)
 
 bool isIconic(XId window)
 {
-    Atom type;
-    int format;
-    unsigned long count;
-    unsigned long rest;
-    unsigned char* data = nullptr;
-    const Atom state = atom("WM_STATE");
-    const int status = XGetWindowProperty(display(), window, state, 0, 1, False, state, &type, &format,
-                                          &count, &rest, &data);
-    const bool iconic = status == Success && format == 32 && count == 1 &&
-                        *reinterpret_cast<const long*>(data) == IconicState;
-    if (data)
-        XFree(data);
-    return iconic;
+    long state = WithdrawnState;
+    return readLong(window, "WM_STATE", atom("WM_STATE"), &state) && state == IconicState;
 }
 
 void requestActivation(XId window)
@@ -239,16 +246,8 @@ void requestActivation(XId window)
 
 bool hasWindowManager()
 {
-    Atom type;
-    int format;
-    unsigned long count;
-    unsigned long rest;
-    unsigned char* data = nullptr;
-    const int status = XGetWindowProperty(display(), rootWindow(), atom("_NET_SUPPORTING_WM_CHECK"), 0, 1,
-                                          False, XA_WINDOW, &type, &format, &count, &rest, &data);
-    if (data)
-        XFree(data);
-    return status == Success && type == XA_WINDOW && count == 1;
+    long itsWindow = 0;
+    return readLong(rootWindow(), "_NET_SUPPORTING_WM_CHECK", XA_WINDOW, &itsWindow);
 }
 
 void answerPing(XId window, unsigned long time)

@@ -1,13 +1,13 @@
-// A rectangle as the X server takes it.
-#ifndef ZELTK_X11_CLIPRECT_H
-#define ZELTK_X11_CLIPRECT_H
+// A rectangle of a drawable or of the screen, in pixels.
+#ifndef ZELTK_X11_BOX_H
+#define ZELTK_X11_BOX_H
 
 namespace zeltk
 {
 namespace x11
 {
 
-struct ClipRect {
+struct Box {
     int x;
     int y;
     int width;
