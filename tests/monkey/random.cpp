@@ -5,10 +5,14 @@
 #include <climits>
 
 // SplitMix64: small, and good from its first number on.
-std::uint64_t Random::next()
+std::uint64_t Random::next(std::uint64_t largest)
 {
-    if (m_end)
-        return m_bytes == m_end ? 0 : *m_bytes++;
+    if (m_end) {
+        std::uint64_t value = 0;
+        for (; largest > 0 && hasMore(); largest >>= 8)
+            value = value << 8 | *m_bytes++;
+        return value;
+    }
     std::uint64_t z = (m_state += 0x9e3779b97f4a7c15u);
     z = (z ^ (z >> 30)) * 0xbf58476d1ce4e5b9u;
     z = (z ^ (z >> 27)) * 0x94d049bb133111ebu;
@@ -30,7 +34,7 @@ int Random::anyInt()
     const int kind = below(10);
     const int value = kind < 5   ? between(-20, 400)
                       : kind < 9 ? limits[below(sizeof limits / sizeof limits[0])]
-                                 : static_cast<int>(static_cast<std::uint32_t>(next()));
+                                 : static_cast<int>(static_cast<std::uint32_t>(next(UINT32_MAX)));
     trace += ' ' + std::to_string(value);
     return value;
 }
@@ -61,7 +65,8 @@ QString Random::text()
         result = QString::null;
     } else {
         const int length = kind == 5 ? between(1, 12) : kind == 6 ? between(1, 300) : below(20) ? 40 : 20000;
-        for (int i = 0; i < length; ++i)
+        // Given bytes, a text is no longer than what they say of it.
+        for (int i = 0; i < length && (!m_end || hasMore()); ++i)
             result += QChar(static_cast<unsigned short>(chance(50) ? between(32, 126) : below(65536)));
     }
     trace += " text" + std::to_string(kind) + "(" + std::to_string(result.length()) + ")";

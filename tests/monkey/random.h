@@ -13,8 +13,13 @@ class Random
 public:
     explicit Random(std::uint64_t seed = 0) : m_state(seed) {}
 
-    std::uint64_t next();
-    int below(int count) { return count > 0 ? static_cast<int>(next() % static_cast<unsigned>(count)) : 0; }
+    // Bytes that choices come from are spent as needed for numbers up to `largest`.
+    std::uint64_t next(std::uint64_t largest = UINT64_MAX);
+    int below(int count)
+    {
+        const auto choices = static_cast<unsigned>(count);
+        return count > 0 ? static_cast<int>(next(choices - 1) % choices) : 0;
+    }
     int between(int low, int high) { return low + below(high - low + 1); }
     bool chance(int percent) { return below(100) < percent; }
 
@@ -23,7 +28,7 @@ public:
     // Empty, plain, with blanks and accelerators, long, of many scripts, with lone surrogates, with zeroes.
     QString text();
 
-    // From now on the choices come from these bytes instead of from chance, as long as there are some.
+    // From now on the choices come from these bytes instead of from chance; after them each is the first one.
     void takeFrom(const unsigned char* bytes, std::size_t size);
     bool hasMore() const { return m_bytes != m_end; }
 

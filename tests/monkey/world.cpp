@@ -1,7 +1,6 @@
 #include "world.h"
 
 #include "saboteur.h"
-#include "xinput.h"
 
 #include <qapplication.h>
 #include <qwidgetlist.h>
@@ -97,17 +96,4 @@ void act(World& world)
         --world.depth;
     }
     world.random.trace += "]";
-}
-
-// Each round carries the program's requests to the server and the answers back; a widget that causes new
-// events for ever is found by the watchdog.
-void drain()
-{
-    int quiet = 0;
-    while (quiet < 2) {
-        QApplication::syncX();
-        xinput::sync();
-        quiet = qApp->hasPendingEvents() ? 0 : quiet + 1;
-        qApp->processEvents();
-    }
 }
