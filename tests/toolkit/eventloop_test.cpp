@@ -10,6 +10,7 @@
 #include <qtimer.h>
 
 #include <functional>
+#include <optional>
 #include <thread>
 
 namespace
@@ -95,18 +96,19 @@ TEST_F(EventLoop, LoopsAreNestedAndLeftOneByOne)
 {
     std::string levels;
     const auto note = [&] { levels += std::to_string(qApp->loopLevel()); };
+    std::optional<Later> inside, end;
     Later enter(10, [&] {
         note();
+        inside.emplace(10, [&] {
+            note();
+            qApp->exit_loop();
+        });
         qApp->enter_loop();
         note();
-    });
-    Later inside(30, [&] {
-        note();
-        qApp->exit_loop();
-    });
-    Later end(60, [&] {
-        note();
-        qApp->quit();
+        end.emplace(10, [&] {
+            note();
+            qApp->quit();
+        });
     });
     note();
     EXPECT_EQ(0, qApp->exec());
