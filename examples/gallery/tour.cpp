@@ -62,6 +62,10 @@ bool Tour::start()
         std::fprintf(stderr, "zelkit-gallery: the X server has no XTEST extension, so there is no tour\n");
         return false;
     }
+    // Without a window manager nobody else gives the window the keyboard, and fields would show no cursor. At
+    // first no widget has it.
+    m_gallery.setActiveWindow();
+    m_gallery.setFocus();
     m_timer.start(stepMilliseconds);
     return true;
 }
