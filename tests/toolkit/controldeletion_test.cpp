@@ -282,15 +282,19 @@ TEST_F(ControlDeletion, OfAComboBoxThatIsEdited)
 
 TEST_F(ControlDeletion, OfAListBox)
 {
+    const char* const moving = SIGNAL(contentsMoving(int, int));
+    const auto quietly = [](QListBox* l, const std::function<void(QListBox*)>& doIt) {
+        l->blockSignals(true);
+        doIt(l);
+        l->blockSignals(false);
+    };
     const auto press = [](QListBox* l) { xinput::click(l->viewport(), 10, 20); };
     const auto right = [](QListBox* l) { xinput::click(l->viewport(), 10, 20, 3); };
     const auto twice = [](QListBox* l) { xinput::doubleClick(l->viewport(), 10, 5); };
     const auto down = [](QListBox* l) { sendKey(l, Qt::Key_Down); };
     const auto enter = [](QListBox* l) { sendKey(l, Qt::Key_Return); };
-    const auto space = [](QListBox* l) {
-        l->blockSignals(true);
-        l->setSelectionMode(QListBox::Multi);
-        l->blockSignals(false);
+    const auto space = [=](QListBox* l) {
+        quietly(l, [](QListBox* list) { list->setSelectionMode(QListBox::Multi); });
         sendKey(l, Qt::Key_Space);
     };
     const auto last = [](QListBox* l) {
@@ -328,7 +332,10 @@ TEST_F(ControlDeletion, OfAListBox)
         {SIGNAL(selectionChanged()), [](QListBox* l) { l->setSelectionMode(QListBox::Multi); }},
         {SIGNAL(highlighted(int)), [](QListBox* l) { l->removeItem(0); }},
         {SIGNAL(highlighted(int)), [](QListBox* l) { l->changeItem("new", 0); }},
-        {SIGNAL(contentsMoving(int, int)), last},
+        {SIGNAL(highlighted(int)), [](QListBox* l) { doubleClick(l->viewport(), 10, 40); }},
+        {moving, last},
+        {moving, [=](QListBox* l) { quietly(l, last), l->clear(); }},
+        {moving, [=](QListBox* l) { quietly(l, last), l->resize(100, 400); }},
         {SIGNAL(onItem(QListBoxItem*)),
          [](QListBox* l) { l->viewport()->setMouseTracking(true), xinput::moveTo(l->viewport(), 10, 20); }}};
     int number = 0;
@@ -343,6 +350,36 @@ TEST_F(ControlDeletion, OfAListBox)
         list->setMinimumHeight(80);
         check<QListBox>(list, each);
     }
+}
+
+// An entry that may become another one while nobody looks.
+class Growing : public QListBoxItem
+{
+public:
+    explicit Growing(QListBox* list) : QListBoxItem(list) {}
+    int height(const QListBox*) const override { return tall ? 12 : 1; }
+    static bool tall;
+
+protected:
+    void paint(QPainter*) override {}
+};
+
+bool Growing::tall = true;
+
+TEST_F(ControlDeletion, OfAListBoxThatIsShownWithLessInIt)
+{
+    Growing::tall = true;
+    QListBox* list = new Perishable<QListBox>(&window, "list");
+    for (int i = 0; i < 5; ++i)
+        new Growing(list);
+    check<QListBox>(list, {SIGNAL(contentsMoving(int, int)), [](QListBox* l) {
+                               l->blockSignals(true);
+                               l->setCurrentItem(4);
+                               l->blockSignals(false);
+                               l->hide();
+                               Growing::tall = false;
+                               l->show();
+                           }});
 }
 
 TEST_F(ControlDeletion, OfAScrollBar)
