@@ -10,6 +10,8 @@
 #include <qapplication.h>
 #include <qcombobox.h>
 #include <qdesktopwidget.h>
+#include <qevent.h>
+#include <qguardedptr.h>
 #include <qlineedit.h>
 #include <qlistbox.h>
 #include <qpushbutton.h>
@@ -19,11 +21,34 @@
 #include <X11/keysym.h>
 #undef Bool
 
+#include <functional>
 #include <memory>
 #include <string>
 
 namespace
 {
+
+// Deletes a widget when another one, inside it, is hidden.
+class DeletesWhenHidden : public QObject
+{
+public:
+    DeletesWhenHidden(QWidget* hidden, QWidget* victim) : m_victim(victim)
+    {
+        hidden->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() != QEvent::Hide)
+            return false;
+        delete m_victim;
+        return true;
+    }
+
+private:
+    QWidget* m_victim;
+};
 
 // Both kinds, alone and under a window manager.
 class ComboBoxPopup : public testing::TestWithParam<std::tuple<bool, bool>>
@@ -37,12 +62,8 @@ protected:
         window->setGeometry(100, 100, 240, 160);
         button = new QPushButton("button", window.get());
         button->setGeometry(10, 120, 80, 30);
-        combo = new Perishable<QComboBox>(std::get<0>(GetParam()), window.get(), "combo");
-        combo->setGeometry(10, 10, 130, 28);
-        for (const char* text : {"One", "Two", "Three", "Four"})
-            combo->insertItem(text);
-        recorder.watch(combo, SIGNAL(activated(int)));
         recorder.watch(button, SIGNAL(clicked()));
+        addCombo();
         showAndActivate(window.get());
         combo->setFocus();
         settle();
@@ -53,6 +74,14 @@ protected:
         Graveyard::clear();
     }
 
+    void addCombo()
+    {
+        combo = new Perishable<QComboBox>(std::get<0>(GetParam()), window.get(), "combo");
+        combo->setGeometry(10, 10, 130, 28);
+        for (const char* text : {"One", "Two", "Three", "Four"})
+            combo->insertItem(text);
+        recorder.watch(combo, SIGNAL(activated(int)));
+    }
     void open()
     {
         xinput::click(combo, 115, 14);
@@ -188,6 +217,25 @@ TEST_P(ComboBoxPopup, IsOverWhenItsOwnerIsDeleted)
     expectAllIsOver();
     xinput::click(button, 20, 15);
     EXPECT_EQ(heard(), "clicked");
+}
+
+TEST_P(ComboBoxPopup, ItsOwnerMayDieAsItCloses)
+{
+    const std::function<void()> ways[] = {
+        [] { xinput::typeKey(XK_Escape); }, [] { xinput::typeKey(XK_Return); },
+        [this] { xinput::click(combo->listBox()->viewport(), 20, 5); },
+        [this] { xinput::click(button, 20, 15); }, [this] { combo->hide(); }};
+    for (const auto& way : ways) {
+        open();
+        const QGuardedPtr<QWidget> gone(combo);
+        const DeletesWhenHidden filter(combo->listBox(), combo);
+        way();
+        EXPECT_TRUE(waitFor([&] { return gone.isNull(); })) << &way - ways;
+        expectAllIsOver();
+        recorder.take();
+        addCombo();
+        combo->show();
+    }
 }
 
 TEST_P(ComboBoxPopup, IsOverWhenItsWindowIsDeleted)

@@ -11,6 +11,7 @@
 #include <qcombobox.h>
 #include <qlineedit.h>
 #include <qlistbox.h>
+#include <qpixmap.h>
 #include <qscrollbar.h>
 #include <qscrollview.h>
 #include <qvalidator.h>
@@ -227,6 +228,15 @@ TEST_F(ControlDeletion, OfAComboBox)
              std::vector<std::function<void(QComboBox*)>>{down, wheel, listKeys, listClick, dragged})
             cases.push_back({signal, doIt});
     cases.push_back({lit, escape});
+    QPixmap picture(4, 4);
+    picture.fill(Qt::red);
+    cases.push_back({lit, [](QComboBox* c) {
+                         c->blockSignals(true), c->setCurrentItem(3), c->blockSignals(false),
+                             c->setMaxCount(0);
+                     }});
+    cases.push_back({lit, [](QComboBox* c) { c->changeItem("new", 0); }});
+    cases.push_back({lit, [=](QComboBox* c) { c->changeItem(picture, 0); }});
+    cases.push_back({lit, [=](QComboBox* c) { c->changeItem(picture, "new", 0); }});
     cases.push_back({lit, [](QComboBox* c) { c->setCurrentItem(2); }});
     cases.push_back({lit, [](QComboBox* c) {
                          c->blockSignals(true), c->setCurrentItem(2), c->blockSignals(false),
@@ -259,12 +269,20 @@ TEST_F(ControlDeletion, OfAComboBoxThatIsEdited)
         {changed, [](QComboBox* c) { c->setCurrentItem(2); }},
         {changed, [](QComboBox* c) { c->removeItem(0); }},
         {changed, [](QComboBox* c) { c->changeItem("new", 0); }},
+        {changed,
+         [](QComboBox* c) {
+             c->popup(), settle(), sendKey(c->listBox(), Qt::Key_Down), sendKey(c->listBox(), Qt::Key_Return);
+         }},
         {changed, [](QComboBox* c) { c->insertItem("new", 0); }},
         {changed, [](QComboBox* c) { sendKey(c->lineEdit(), Qt::Key_Down); }}};
     const auto withPolicy = [=](QComboBox::Policy policy) {
         return [=](QComboBox* c) { c->setInsertionPolicy(policy), typeAndReturn(c); };
     };
     cases.push_back({SIGNAL(activated(const QString&)), withPolicy(QComboBox::NoInsertion)});
+    cases.push_back({SIGNAL(highlighted(int)), [=](QComboBox* c) { // the last one makes room
+                         c->blockSignals(true), c->setCurrentItem(2), c->setMaxCount(3),
+                             c->blockSignals(false), typeAndReturn(c);
+                     }});
     for (const QComboBox::Policy policy : {QComboBox::AtTop, QComboBox::AtCurrent, QComboBox::AtBottom,
                                            QComboBox::AfterCurrent, QComboBox::BeforeCurrent})
         for (const char* signal :

@@ -21,11 +21,21 @@ namespace motif = zeltk::motif;
 namespace
 {
 
-bool inRange(const char* function, const QComboBox* combo, int index)
+// Only what is too large is worth a warning.
+bool isEntry(const char* function, const QComboBox* combo, int index)
 {
     if (index >= combo->count())
         qWarning("QComboBox::%s: (%s) Index %d out of range", function, combo->name(), index);
-    return index < combo->count();
+    return index >= 0 && index < combo->count();
+}
+
+// Gives an entry another text or picture; false if who hears of it deletes the combo box.
+template <typename... Contents>
+bool change(QComboBox* combo, QListBox* list, int index, const Contents&... contents)
+{
+    const QGuardedPtr<QComboBox> alive(combo);
+    list->changeItem(contents..., index);
+    return alive;
 }
 
 } // namespace
@@ -211,7 +221,7 @@ void QComboBox::insertStrList(const char** strings, int numStrings, int index)
 void QComboBox::removeItem(int index)
 {
     const int before = count();
-    if (index < 0 || !inRange("removeItem", this, index))
+    if (!isEntry("removeItem", this, index))
         return;
     const QGuardedPtr<QComboBox> alive(this);
     d->list->removeItem(index);
@@ -245,7 +255,7 @@ int QComboBox::currentItem() const
 
 void QComboBox::setCurrentItem(int index)
 {
-    if ((index == d->current && !d->edit) || index < 0 || !inRange("setCurrentItem", this, index))
+    if ((index == d->current && !d->edit) || !isEntry("setCurrentItem", this, index))
         return;
     const QGuardedPtr<QComboBox> alive(this);
     d->current = index;
@@ -295,41 +305,29 @@ void QComboBox::setCurrentText(const QString& text)
 
 QString QComboBox::text(int index) const
 {
-    return index >= 0 && inRange("text", this, index) ? d->list->text(index) : QString();
+    return isEntry("text", this, index) ? d->list->text(index) : QString();
 }
 
 const QPixmap* QComboBox::pixmap(int index) const
 {
-    return index >= 0 && inRange("pixmap", this, index) ? d->list->pixmap(index) : 0;
+    return isEntry("pixmap", this, index) ? d->list->pixmap(index) : 0;
 }
 
 void QComboBox::changeItem(const QString& text, int index)
 {
-    if (index < 0 || !inRange("changeItem", this, index))
-        return;
-    const QGuardedPtr<QComboBox> alive(this);
-    d->list->changeItem(text, index);
-    if (alive)
+    if (isEntry("changeItem", this, index) && change(this, d->list, index, text))
         inserted(index);
 }
 
 void QComboBox::changeItem(const QPixmap& pixmap, int index)
 {
-    if (index < 0 || !inRange("changeItem", this, index))
-        return;
-    const QGuardedPtr<QComboBox> alive(this);
-    d->list->changeItem(pixmap, index);
-    if (alive)
+    if (isEntry("changeItem", this, index) && change(this, d->list, index, pixmap))
         inserted(index);
 }
 
 void QComboBox::changeItem(const QPixmap& pixmap, const QString& text, int index)
 {
-    if (index < 0 || !inRange("changeItem", this, index))
-        return;
-    const QGuardedPtr<QComboBox> alive(this);
-    d->list->changeItem(pixmap, text, index);
-    if (alive)
+    if (isEntry("changeItem", this, index) && change(this, d->list, index, pixmap, text))
         inserted(index);
 }
 
