@@ -2,7 +2,10 @@
 #include "x11/errors.h"
 
 #include "x11/connection.h"
+#include "x11/gc.h"
 #include "x11/xlib.h"
+
+#include <X11/Xproto.h>
 
 #include <csignal>
 #include <cstdio>
@@ -59,6 +62,8 @@ std::string requestName(Display* server, const XErrorEvent* error)
 // them.
 int reportError(Display* server, XErrorEvent* error)
 {
+    if (error->error_code == BadGC || error->request_code == X_CreateGC)
+        forgetContext(error->resourceid);
     char description[128];
     XGetErrorText(server, error->error_code, description, sizeof description);
     char text[320];

@@ -49,6 +49,11 @@ void set(GcSlot* slot, const GcKey& key)
 {
     XGCValues values;
     const unsigned long mask = fill(key, &values);
+    if (slot->lost) {
+        XFree(slot->gc); // XFreeGC() would tell the server, which does not know it
+        slot->gc = nullptr;
+        slot->lost = false;
+    }
     const bool wasClipped = slot->gc && slot->key.clip;
     if (slot->gc)
         XChangeGC(display(), slot->gc, mask, &values);
@@ -95,7 +100,7 @@ GcSlot* gcFor(const GcKey& key)
     std::vector<GcSlot>& slots = store();
     GcSlot* oldest = nullptr;
     for (GcSlot& slot : slots) {
-        if (slot.key == key) {
+        if (slot.key == key && !slot.lost) {
             slot.lastUse = ++uses;
             return &slot;
         }
@@ -122,6 +127,16 @@ void forgetPattern(XId pattern)
             GcKey plain;
             plain.bitmap = slot.key.bitmap;
             set(&slot, plain);
+        }
+}
+
+void forgetContext(XId context)
+{
+    for (GcSlot& slot : store())
+        if (slot.gc && XGContextFromGC(slot.gc) == context) {
+            slot.lost = true;
+            slot.lastUse = 0;
+            ++slot.version;
         }
 }
 

@@ -68,11 +68,14 @@ struct GcSlot {
     _XGC* gc = nullptr;
     unsigned version = 0;
     unsigned long lastUse = 0;
+    bool lost = false; // the server could not make it
 };
 
 GcSlot* gcFor(const GcKey& key);
 // Contexts that use a pattern must not be found again when it is freed.
 void forgetPattern(XId pattern);
+// Nor one that the server does not have. Sends nothing, for it is called while an error is handled.
+void forgetContext(XId context);
 
 } // namespace x11
 } // namespace zeltk
