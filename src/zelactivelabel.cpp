@@ -119,5 +119,5 @@ void ZelActiveLabel::drawLabel(QPainter& painter)
         break;
     }
     const QRect rectangle(QPoint(2, 2), QPoint(across - 3, down - 3));
-    painter.drawText(rectangle, alignment, text, -1);
+    painter.drawText(rectangle, alignment, text);
 }

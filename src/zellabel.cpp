@@ -100,5 +100,5 @@ void ZelLabel::drawContents(QPainter* painter)
         return;
     }
     painter->setPen(*currentColor);
-    painter->drawText(contentsRect(), AlignCenter, text(), -1);
+    painter->drawText(contentsRect(), AlignCenter, text());
 }

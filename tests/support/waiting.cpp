@@ -6,6 +6,7 @@
 #include <qwidget.h>
 
 #include <chrono>
+#include <cstdlib>
 #include <poll.h>
 
 static void handleEvents()
@@ -16,10 +17,17 @@ static void handleEvents()
     QApplication::flushX();
 }
 
+// Under Valgrind everything takes longer.
+static int patience()
+{
+    const char* factor = std::getenv("TEST_PATIENCE");
+    return factor ? std::atoi(factor) : 1;
+}
+
 bool waitFor(const std::function<bool()>& condition, int milliseconds)
 {
     using Clock = std::chrono::steady_clock;
-    const Clock::time_point deadline = Clock::now() + std::chrono::milliseconds(milliseconds);
+    const Clock::time_point deadline = Clock::now() + std::chrono::milliseconds(milliseconds) * patience();
     for (;;) {
         handleEvents();
         if (condition())
@@ -42,7 +50,7 @@ void settle()
 
 LoopDeadline::LoopDeadline()
 {
-    startTimer(5000);
+    startTimer(5000 * patience());
 }
 
 void LoopDeadline::timerEvent(QTimerEvent*)

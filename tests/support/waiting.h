@@ -8,7 +8,8 @@
 
 class QWidget;
 
-// Handles events until the condition holds; false if it does not within the deadline.
+// Handles events until the condition holds; false if it does not within the deadline, which TEST_PATIENCE in
+// the environment multiplies.
 bool waitFor(const std::function<bool()>& condition, int milliseconds = 5000);
 
 // Handles everything that is on its way: what was sent to the X server, what it answers, what is posted.
