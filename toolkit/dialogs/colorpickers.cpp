@@ -5,7 +5,6 @@
 #include <qevent.h>
 #include <qimage.h>
 #include <qpainter.h>
-#include <qpointarray.h>
 
 #include <algorithm>
 

@@ -132,6 +132,10 @@ private:
     ZELTK_LOCAL bool controlKey(QKeyEvent* event);
     ZELTK_LOCAL bool controlEditKey(int key);
     ZELTK_LOCAL void wordKey(bool forward, bool mark);
+    ZELTK_LOCAL void removeRest();
+    ZELTK_LOCAL void removeWordBefore();
+    ZELTK_LOCAL void removeWordBehind();
+    ZELTK_LOCAL void removeWord(bool forward);
 
     friend struct zeltk::LineEditData;
     zeltk::LineEditData* d;

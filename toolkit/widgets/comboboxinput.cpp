@@ -1,5 +1,4 @@
 // QComboBox: mouse, keys, choices.
-#include "style/motifinputs.h"
 #include "widgets/comboboxdata.h"
 
 #include <qapplication.h>

@@ -146,47 +146,54 @@ void QLineEdit::wordKey(bool forward, bool mark)
 
 bool QLineEdit::controlEditKey(int key)
 {
-    const int known[] = {Key_D, Key_H, Key_K, Key_U, Key_V, Key_X, Key_Y, Key_Z, Key_Backspace, Key_Delete};
-    bool isKnown = false;
-    for (int each : known)
-        isKnown = isKnown || each == key;
-    if (!isKnown || d->readOnly)
-        return isKnown;
-    const EditBuffer before = d->buffer;
-    const QGuardedPtr<QLineEdit> alive(this);
-    switch (key) {
-    case Key_D:
-        del();
-        break;
-    case Key_H:
-        backspace();
-        break;
-    case Key_K:
-        d->removeRest();
-        d->finish(this, before);
-        break;
-    case Key_U:
-        clear();
-        break;
-    case Key_V:
-        paste();
-        break;
-    case Key_X:
-        cut();
-        break;
-    case Key_Y:
-        redo();
-        break;
-    case Key_Z:
-        undo();
-        break;
-    default:
-        if (!hasSelectedText())
-            wordKey(key == Key_Delete, true);
-        if (alive)
-            del();
+    static const struct {
+        int key;
+        void (QLineEdit::*edit)();
+    } edits[] = {{Key_D, &QLineEdit::del},
+                 {Key_H, &QLineEdit::backspace},
+                 {Key_K, &QLineEdit::removeRest},
+                 {Key_U, &QLineEdit::clear},
+                 {Key_V, &QLineEdit::paste},
+                 {Key_X, &QLineEdit::cut},
+                 {Key_Y, &QLineEdit::redo},
+                 {Key_Z, &QLineEdit::undo},
+                 {Key_Backspace, &QLineEdit::removeWordBefore},
+                 {Key_Delete, &QLineEdit::removeWordBehind}};
+    for (const auto& each : edits) {
+        if (each.key != key)
+            continue;
+        if (!d->readOnly)
+            (this->*each.edit)();
+        return true;
     }
-    return true;
+    return false;
+}
+
+void QLineEdit::removeRest()
+{
+    const EditBuffer before = d->buffer;
+    d->removeRest();
+    d->finish(this, before);
+}
+
+void QLineEdit::removeWordBefore()
+{
+    removeWord(false);
+}
+
+void QLineEdit::removeWordBehind()
+{
+    removeWord(true);
+}
+
+// The word, or what is selected.
+void QLineEdit::removeWord(bool forward)
+{
+    const QGuardedPtr<QLineEdit> alive(this);
+    if (!hasSelectedText())
+        wordKey(forward, true);
+    if (alive)
+        del();
 }
 
 // Letters and editing keys are not shortcuts of others while one types here.

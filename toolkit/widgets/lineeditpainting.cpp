@@ -1,7 +1,6 @@
 // QLineEdit: what one sees.
 #include "widgets/lineeditdata.h"
 
-#include <qevent.h>
 #include <qpainter.h>
 #include <qpixmap.h>
 

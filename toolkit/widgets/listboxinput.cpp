@@ -1,7 +1,6 @@
 // QListBox: mouse and keys.
 #include "widgets/listboxdata.h"
 
-#include <qapplication.h>
 #include <qevent.h>
 #include <qguardedptr.h>
 

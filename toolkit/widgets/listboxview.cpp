@@ -1,7 +1,6 @@
 // QListBox: places and painting.
 #include "widgets/listboxdata.h"
 
-#include <qapplication.h>
 #include <qevent.h>
 #include <qguardedptr.h>
 #include <qpainter.h>
@@ -180,10 +179,8 @@ QSize QListBox::sizeHint() const
     if (count() == 0)
         return QSize(100, 40);
     const int frame = 2 * frameWidth();
-    const QSize wanted(std::max(totalWidth(), fontMetrics().width('x') * 10) + frame,
-                       std::max(std::min(10, static_cast<int>(count())), 3) * std::max(1, itemHeight()) +
-                           frame);
-    return wanted;
+    return QSize(std::max(totalWidth(), fontMetrics().width('x') * 10) + frame,
+                 std::max(std::min(10, static_cast<int>(count())), 3) * std::max(1, itemHeight()) + frame);
 }
 
 QSize QListBox::minimumSizeHint() const

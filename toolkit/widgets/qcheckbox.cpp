@@ -4,7 +4,6 @@
 #include "style/motif.h"
 
 #include <qpainter.h>
-#include <qpixmap.h>
 
 QCheckBox::QCheckBox(QWidget* parent, const char* name) : QButton(parent, name)
 {

@@ -6,15 +6,12 @@
 #include "style/motifinputs.h"
 #include "widgets/comboboxdata.h"
 
-#include <qapplication.h>
 #include <qguardedptr.h>
-#include <qpainter.h>
 #include <qpixmap.h>
 #include <qstringlist.h>
 #include <qstrlist.h>
 #include <qvalidator.h>
 
-#include <algorithm>
 
 namespace motif = zeltk::motif;
 

@@ -3,7 +3,6 @@
 
 #include "widgets/listboxdata.h"
 
-#include <qapplication.h>
 #include <qguardedptr.h>
 #include <qstrlist.h>
 
@@ -81,9 +80,8 @@ void QListBox::insertItem(const QListBoxItem* item, int index)
     added->lbox = this;
     added->s = false;
     d->items.insert(d->items.begin() + index, added);
-    if (count() == 1) {
+    if (count() == 1)
         d->current = added;
-    }
     triggerUpdate(true);
 }
 

@@ -5,7 +5,6 @@
 #include "widgets/defaultbutton.h"
 
 #include <qpainter.h>
-#include <qpixmap.h>
 
 namespace
 {
