@@ -126,3 +126,27 @@ TEST(MonitorDay, TakesNoMoreAtItsEndThanAtItsBeginning)
     QWidget* const processor = childNamed(childNamed(&window, "Processor (%)"), "graph");
     EXPECT_GT(Pixels::of(processor).count(0x50dc50), processor->width());
 }
+
+TEST(MonitorDay, GoesOnWhateverTheClockOnTheWallSays)
+{
+    ExampleMachine machine;
+    FastClock clock;
+    Life life(&machine);
+    MonitorWindow window(machine.folder());
+    showAndWait(&window);
+    window.run(1000);
+    for (const time_t setting : {990000L, 2000000L, 0L, -86400L, 2147483600L, -2147483648L, 1000000L}) {
+        clock.setWall(static_cast<time_t>(setting));
+        const int before = life.seconds;
+        const XTraffic sent = sentToX();
+        const long long start = clock.passed();
+        while (life.seconds < before + 100)
+            qApp->eventLoop()->processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMore);
+        EXPECT_NEAR(static_cast<double>(clock.passed() - start), 100000, 2000) << setting;
+        QApplication::flushX();
+        const unsigned long requests = (sentToX() - sent).requests;
+        EXPECT_TRUE(requests > 4 * 100 && requests < 100 * 100) << setting << ": " << requests;
+        QWidget* const panel = childNamed(&window, "Network (KiB/s)");
+        EXPECT_GT(Pixels::of(childNamed(panel, "graph")).count(0xf0be3c), 100) << setting;
+    }
+}
