@@ -74,6 +74,8 @@ TEST(StringNumbers, AreRead)
         {"- 5", 0, 0, 0, ""},
         {"--5", 0, 0, 0, ""},
         {"inf", 0, 0, std::numeric_limits<double>::infinity(), "d"},
+        {"-inf", 0, 0, -std::numeric_limits<double>::infinity(), "d"},
+        {"-154E364", 0, 0, -std::numeric_limits<double>::infinity(), "d"},
     };
     for (const auto& each : cases) {
         const QString text(each.text);

@@ -127,7 +127,7 @@ bool parseNumber(const std::string& text, double* number)
     while (behind > begin && isBlank(text[behind - 1]))
         --behind;
     const std::string digits = text.substr(begin, behind - begin);
-    const bool inWords = digits == "inf" || digits == "nan";
+    const bool inWords = digits == "inf" || digits == "-inf" || digits == "nan";
     if (digits.empty() || (!inWords && digits.find_first_not_of("0123456789+-.eE") != std::string::npos))
         return false;
     char* end = nullptr;
