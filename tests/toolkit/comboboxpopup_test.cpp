@@ -20,6 +20,7 @@
 #include <X11/Xlib.h>
 #include <X11/keysym.h>
 #undef Bool
+#undef FocusOut
 
 #include <functional>
 #include <memory>
@@ -28,25 +29,26 @@
 namespace
 {
 
-// Deletes a widget when another one, inside it, is hidden.
-class DeletesWhenHidden : public QObject
+// Deletes a widget at an event of another one inside it.
+class DeletesAt : public QObject
 {
 public:
-    DeletesWhenHidden(QWidget* hidden, QWidget* victim) : m_victim(victim)
+    DeletesAt(QEvent::Type type, QWidget* watched, QWidget* victim) : m_type(type), m_victim(victim)
     {
-        hidden->installEventFilter(this);
+        watched->installEventFilter(this);
     }
 
 protected:
     bool eventFilter(QObject*, QEvent* event) override
     {
-        if (event->type() != QEvent::Hide)
+        if (event->type() != m_type)
             return false;
         delete m_victim;
         return true;
     }
 
 private:
+    QEvent::Type m_type;
     QWidget* m_victim;
 };
 
@@ -219,6 +221,17 @@ TEST_P(ComboBoxPopup, IsOverWhenItsOwnerIsDeleted)
     EXPECT_EQ(heard(), "clicked");
 }
 
+TEST_P(ComboBoxPopup, ItsOwnerMayDieAsItOpens)
+{
+    QWidget* focused = combo->lineEdit() ? static_cast<QWidget*>(combo->lineEdit()) : combo;
+    ASSERT_TRUE(focused->hasFocus());
+    const QGuardedPtr<QWidget> gone(combo);
+    const DeletesAt filter(QEvent::FocusOut, focused, combo);
+    combo->popup();
+    EXPECT_TRUE(gone.isNull());
+    expectAllIsOver();
+}
+
 TEST_P(ComboBoxPopup, ItsOwnerMayDieAsItCloses)
 {
     const std::function<void()> ways[] = {
@@ -228,7 +241,7 @@ TEST_P(ComboBoxPopup, ItsOwnerMayDieAsItCloses)
     for (const auto& way : ways) {
         open();
         const QGuardedPtr<QWidget> gone(combo);
-        const DeletesWhenHidden filter(combo->listBox(), combo);
+        const DeletesAt filter(QEvent::Hide, combo->listBox(), combo);
         way();
         EXPECT_TRUE(waitFor([&] { return gone.isNull(); })) << &way - ways;
         expectAllIsOver();

@@ -475,6 +475,48 @@ TEST_F(ControlDeletion, OfAScrollView)
     }
 }
 
+// Both die of the first event that they hear of by filtering a child's.
+class MortalComboBox : public QComboBox
+{
+public:
+    explicit MortalComboBox(QWidget* parent) : QComboBox(true, parent) {}
+
+protected:
+    void keyPressEvent(QKeyEvent*) override { delete this; }
+    void focusInEvent(QFocusEvent*) override { delete this; }
+    void focusOutEvent(QFocusEvent*) override { delete this; }
+};
+
+class MortalListBox : public QListBox
+{
+public:
+    explicit MortalListBox(QWidget* parent) : QListBox(parent) {}
+
+protected:
+    void mousePressEvent(QMouseEvent*) override { delete this; }
+};
+
+TEST_F(ControlDeletion, StopsTheEventOfAChildThatIsGoneToo)
+{
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_A, 'a', 0, "a");
+    QFocusEvent in(QEvent::FocusIn), out(QEvent::FocusOut);
+    for (QEvent* event :
+         {static_cast<QEvent*>(&key), static_cast<QEvent*>(&in), static_cast<QEvent*>(&out)}) {
+        QComboBox* combo = new Perishable<MortalComboBox>(&window);
+        EXPECT_TRUE(static_cast<QObject*>(combo)->eventFilter(combo->lineEdit(), event)) << event->type();
+    }
+    QListBox* list = new Perishable<MortalListBox>(&window);
+    QMouseEvent press(QEvent::MouseButtonPress, QPoint(5, 5), Qt::LeftButton, 0);
+    press.ignore();
+    EXPECT_TRUE(static_cast<QObject*>(list)->eventFilter(list->viewport(), &press));
+    QListBox* other = new Perishable<QListBox>(&window);
+    SignalRecorder recorder;
+    recorder.watch(other, SIGNAL(contextMenuRequested(QListBoxItem*, const QPoint&)));
+    recorder.whenever = [other] { delete other; };
+    QContextMenuEvent menu(QContextMenuEvent::Mouse, QPoint(5, 5), QPoint(5, 5), 0);
+    EXPECT_TRUE(static_cast<QObject*>(other)->eventFilter(other->viewport(), &menu));
+}
+
 TEST_F(ControlDeletion, OfTheEntryThatTheListTellsOf)
 {
     QListBox list(&window, "list");
