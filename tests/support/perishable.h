@@ -6,8 +6,8 @@
 #include <new>
 #include <vector>
 
-// Where they are kept until the test is over, so that their memory is not used for something else. The address
-// sanitizer keeps freed memory by itself, and knows more of it.
+// Where they are kept until the test is over, so that their memory is not used for something else. The
+// address sanitizer keeps freed memory by itself, and knows more of it.
 class Graveyard
 {
 public:

@@ -12,7 +12,6 @@
 #include <qstrlist.h>
 #include <qvalidator.h>
 
-
 namespace motif = zeltk::motif;
 
 namespace
