@@ -260,7 +260,7 @@ TEST_F(HostileManager, LiesAboutPlacesAndSizes)
     const int numbers[] = {0, -1, 1, 32767, -32768, 65535, INT_MAX, INT_MIN};
     for (const int place : numbers)
         for (const int size : numbers)
-            manager.lie(*window, place, -place, size, size);
+            manager.lie(*window, place, size, size, place);
     manager.done();
     expectSane(&manager);
 }
