@@ -122,6 +122,7 @@ void windowExposed(QWidget* widget, const QRect& rect, int more)
     data->exposed = QRegion();
     if (region.isEmpty() || !paintsItself(widget))
         return;
+    // What was painted meanwhile is not cleared again: smooth text grows bolder there, as in Qt.
     if (erasesByPainter(data))
         eraseRegion(widget, region);
     deliverPaint(widget, region, true);
