@@ -49,8 +49,9 @@ namespace
 // Windows take the new look, their children from them.
 void informWidgets(const char* className)
 {
-    for (QWidget* widget : std::vector<QWidget*>(zeltk::everyWidget()))
-        if (widget->isTopLevel() || (className && widget->inherits(className)))
+    const std::vector<QWidget*>& all = zeltk::everyWidget();
+    for (const QGuardedPtr<QWidget>& widget : std::vector<QGuardedPtr<QWidget>>(all.begin(), all.end()))
+        if (widget && (widget->isTopLevel() || (className && widget->inherits(className))))
             zeltk::inheritLook(widget);
 }
 

@@ -61,9 +61,9 @@ bool isUnmanaged(const QWidget* widget)
     return widget->testWFlags(Qt::WType_Popup | Qt::WX11BypassWM);
 }
 
-WId outerWindow(const QWidget* widget)
+WId outerWindow(const QWidget* widget, const QWidget* parent)
 {
-    return widget->isTopLevel() ? x11::rootWindow() : widget->parentWidget()->winId();
+    return widget->isTopLevel() ? x11::rootWindow() : parent->winId();
 }
 
 // A new widget hears where it is before it is shown, at the latest.
@@ -105,6 +105,12 @@ std::vector<QWidget*> childWidgets(const QWidget* widget)
     return result;
 }
 
+std::vector<QGuardedPtr<QWidget>> guardedChildren(const QWidget* widget)
+{
+    const std::vector<QWidget*> children = childWidgets(widget);
+    return std::vector<QGuardedPtr<QWidget>>(children.begin(), children.end());
+}
+
 const std::vector<QWidget*>& everyWidget()
 {
     return widgets();
@@ -119,9 +125,9 @@ void makeWindow(QWidget* widget)
     } else {
         startGeometry(widget);
         const QRect& box = data->rect;
-        WidgetAccess::setWinId(widget,
-                               x11::createWindow(outerWindow(widget), box.x(), box.y(), box.width(),
-                                                 box.height(), widget->isTopLevel(), isUnmanaged(widget)));
+        WidgetAccess::setWinId(widget, x11::createWindow(outerWindow(widget, widget->parentWidget()), box.x(),
+                                                         box.y(), box.width(), box.height(),
+                                                         widget->isTopLevel(), isUnmanaged(widget)));
         if (data->flags & Qt::WStaticContents)
             x11::keepContents(widget->winId(), true);
     }
@@ -129,16 +135,16 @@ void makeWindow(QWidget* widget)
     data->state |= Qt::WState_Created;
 }
 
-void rehangWindow(QWidget* widget, Qt::WFlags flags)
+void rehangWindow(QWidget* widget, const QWidget* parent, Qt::WFlags flags)
 {
     WidgetData* data = dataOf(widget);
-    data->flags = completed(flags, widget->parent());
+    data->flags = completed(flags, parent);
     data->described = false;
     data->windowState = 0;
     WidgetAccess::clearState(widget, Qt::WState_Resized);
     startGeometry(widget);
     const QRect& box = data->rect;
-    x11::rehangWindow(widget->winId(), outerWindow(widget), box.x(), box.y(), widget->isTopLevel(),
+    x11::rehangWindow(widget->winId(), outerWindow(widget, parent), box.x(), box.y(), widget->isTopLevel(),
                       isUnmanaged(widget));
     x11::moveResizeWindow(widget->winId(), box.x(), box.y(), box.width(), box.height());
 }

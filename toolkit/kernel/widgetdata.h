@@ -2,6 +2,7 @@
 #ifndef ZELTK_WIDGETDATA_H
 #define ZELTK_WIDGETDATA_H
 
+#include <qguardedptr.h>
 #include <qpixmap.h>
 #include <qwidget.h>
 
@@ -86,6 +87,8 @@ inline WidgetData* dataOf(const QWidget* widget)
 
 // The children that are widgets.
 std::vector<QWidget*> childWidgets(const QWidget* widget);
+// The same, for telling them something: who hears of it may delete any.
+std::vector<QGuardedPtr<QWidget>> guardedChildren(const QWidget* widget);
 // All widgets, in the order of their creation.
 const std::vector<QWidget*>& everyWidget();
 
@@ -98,7 +101,7 @@ bool isPaletteMode(Qt::BackgroundMode mode);
 void applyBackground(QWidget* widget);
 void applyCursor(QWidget* widget);
 // Puts the window into its new parent's, with the geometry and the flags of a new widget.
-void rehangWindow(QWidget* widget, Qt::WFlags flags);
+void rehangWindow(QWidget* widget, const QWidget* parent, Qt::WFlags flags);
 void leaveTabOrder(QWidget* widget);
 void joinTabOrder(QWidget* widget);
 // Tell the window manager all it may know; once it knows, only what changed.

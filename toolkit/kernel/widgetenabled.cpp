@@ -2,8 +2,6 @@
 #include "kernel/applicationprivate.h"
 #include "kernel/widgetdata.h"
 
-#include <qguardedptr.h>
-
 namespace zeltk
 {
 
@@ -25,9 +23,9 @@ void refreshEnabled(QWidget* widget)
         return;
     applyBackground(widget);
     WidgetAccess::enabledChange(widget, !enable);
-    const std::vector<QWidget*> children = childWidgets(widget);
-    const std::vector<QGuardedPtr<QWidget>> guarded(children.begin(), children.end());
-    for (const QGuardedPtr<QWidget>& child : guarded)
+    if (!alive)
+        return;
+    for (const QGuardedPtr<QWidget>& child : guardedChildren(widget))
         if (child && !child->isTopLevel())
             refreshEnabled(child);
 }

@@ -4,7 +4,6 @@
 #include <qapplication.h>
 #include <qevent.h>
 
-using zeltk::childWidgets;
 using zeltk::dataOf;
 using zeltk::WidgetAccess;
 using zeltk::WidgetData;
@@ -25,20 +24,24 @@ void changeFont(QWidget* widget, const QFont& font)
         return;
     const QFont old = data->font;
     data->font = font;
-    for (QWidget* child : childWidgets(widget)) {
-        if (child->isTopLevel())
+    const QGuardedPtr<QWidget> alive(widget);
+    for (const QGuardedPtr<QWidget>& child : zeltk::guardedChildren(widget)) {
+        if (!child || child->isTopLevel())
             continue;
         QEvent news(QEvent::ParentFontChange);
         QApplication::sendEvent(child, &news);
-        WidgetData* childData = dataOf(child);
-        if (childData->ownFont) {
-            changeFont(child, childData->askedFont.resolve(font));
-        } else {
-            child->setFont(font);
-            childData->ownFont = false;
+        if (!child)
+            continue;
+        if (dataOf(child)->ownFont) {
+            changeFont(child, dataOf(child)->askedFont.resolve(font));
+            continue;
         }
+        child->setFont(font);
+        if (child)
+            dataOf(child)->ownFont = false;
     }
-    WidgetAccess::fontChange(widget, old);
+    if (alive)
+        WidgetAccess::fontChange(widget, old);
 }
 
 } // namespace

@@ -26,11 +26,12 @@ void tellGeometry(QWidget* widget, const QPoint& oldPos, const QSize& oldSize)
             QApplication::postEvent(widget, new QResizeEvent(widget->size(), oldSize));
         return;
     }
+    const QGuardedPtr<QWidget> alive(widget);
     if (moved) {
         QMoveEvent event(widget->pos(), oldPos);
         QApplication::sendEvent(widget, &event);
     }
-    if (resized) {
+    if (resized && alive) {
         QResizeEvent event(widget->size(), oldSize);
         QApplication::sendEvent(widget, &event);
     }

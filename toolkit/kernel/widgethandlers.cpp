@@ -6,6 +6,7 @@
 
 #include <qapplication.h>
 #include <qevent.h>
+#include <qguardedptr.h>
 
 namespace
 {
@@ -16,6 +17,16 @@ bool moveFocusByKey(QWidget* widget, bool next)
     const bool moved = zeltk::WidgetAccess::focusNextPrev(widget, next);
     QFocusEvent::resetReason();
     return moved;
+}
+
+// What concerns a window or the program concerns all inside.
+void tellChildren(QWidget* widget, QEvent::Type type, bool visibleOnly)
+{
+    for (const QGuardedPtr<QWidget>& child : zeltk::guardedChildren(widget))
+        if (child && (!visibleOnly || (child->isVisible() && !child->isTopLevel()))) {
+            QEvent news(type);
+            QApplication::sendEvent(child, &news);
+        }
 }
 
 bool isInput(const QEvent* event)
@@ -43,6 +54,7 @@ bool QWidget::event(QEvent* event)
         return true;
     if (!isEnabled() && isInput(event))
         return false;
+    const QGuardedPtr<QWidget> alive(this);
     switch (event->type()) {
     case QEvent::MouseMove:
         mouseMoveEvent(static_cast<QMouseEvent*>(event));
@@ -113,19 +125,14 @@ bool QWidget::event(QEvent* event)
     case QEvent::WindowActivate:
     case QEvent::WindowDeactivate:
         windowActivationChange(event->type() == QEvent::WindowDeactivate);
-        for (QWidget* child : zeltk::childWidgets(this))
-            if (child->isVisible() && !child->isTopLevel()) {
-                QEvent news(event->type());
-                QApplication::sendEvent(child, &news);
-            }
+        if (alive)
+            tellChildren(this, event->type(), true);
         return true;
     case QEvent::LanguageChange:
     case QEvent::LocaleChange:
-        for (QWidget* child : zeltk::childWidgets(this)) {
-            QEvent news(event->type());
-            QApplication::sendEvent(child, &news);
-        }
-        update();
+        tellChildren(this, event->type(), false);
+        if (alive)
+            update();
         return true;
     default:
         // Filters have had their turn; QObject would ask them again.

@@ -42,10 +42,10 @@ void QWidget::setMinimumSize(int minw, int minh)
     w->minimum = limit;
     if (width() < limit.width() || height() < limit.height())
         resize(size().expandedTo(limit));
-    if (!alive)
-        return;
-    tell(this);
-    updateGeometry();
+    if (alive)
+        tell(this);
+    if (alive)
+        updateGeometry();
 }
 
 void QWidget::setMaximumSize(int maxw, int maxh)
@@ -57,10 +57,10 @@ void QWidget::setMaximumSize(int maxw, int maxh)
     w->maximum = limit;
     if (width() > limit.width() || height() > limit.height())
         resize(size().boundedTo(limit));
-    if (!alive)
-        return;
-    tell(this);
-    updateGeometry();
+    if (alive)
+        tell(this);
+    if (alive)
+        updateGeometry();
 }
 
 void QWidget::setMinimumWidth(int minw)

@@ -5,7 +5,6 @@
 
 #include <qapplication.h>
 
-using zeltk::childWidgets;
 using zeltk::dataOf;
 using zeltk::isPaletteMode;
 using zeltk::WidgetAccess;
@@ -29,14 +28,18 @@ void changePalette(QWidget* widget, const QPalette& palette)
     const QPalette old = data->palette;
     data->palette = palette;
     zeltk::applyBackground(widget);
-    for (QWidget* child : childWidgets(widget)) {
-        if (child->isTopLevel() || child->ownPalette())
+    const QGuardedPtr<QWidget> alive(widget);
+    for (const QGuardedPtr<QWidget>& child : zeltk::guardedChildren(widget)) {
+        if (!child || child->isTopLevel() || child->ownPalette())
             continue;
         child->setPalette(palette);
-        dataOf(child)->ownPalette = false;
+        if (child)
+            dataOf(child)->ownPalette = false;
     }
-    WidgetAccess::paletteChange(widget, old);
-    widget->update();
+    if (alive)
+        WidgetAccess::paletteChange(widget, old);
+    if (alive)
+        widget->update();
 }
 
 } // namespace
@@ -46,9 +49,11 @@ namespace zeltk
 
 void inheritLook(QWidget* widget)
 {
+    const QGuardedPtr<QWidget> alive(widget);
     if (!widget->ownPalette())
         changePalette(widget, inheritedPalette(widget));
-    inheritFont(widget);
+    if (alive)
+        inheritFont(widget);
 }
 
 } // namespace zeltk
@@ -78,8 +83,10 @@ void QWidget::setPalette(const QPalette& palette)
 
 void QWidget::unsetPalette()
 {
+    const QGuardedPtr<QWidget> alive(this);
     setPalette(inheritedPalette(this));
-    w->ownPalette = false;
+    if (alive)
+        w->ownPalette = false;
 }
 
 void QWidget::paletteChange(const QPalette&) {}

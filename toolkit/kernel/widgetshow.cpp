@@ -14,9 +14,12 @@ namespace x11 = zeltk::x11;
 namespace
 {
 
-void deliver(QWidget* widget, QEvent::Type type)
+// False if that was the widget's end.
+bool deliver(QWidget* widget, QEvent::Type type)
 {
+    const QGuardedPtr<QWidget> alive(widget);
     QApplication::sendPostedEvents(widget, type);
+    return !alive.isNull();
 }
 
 // A window takes the size it likes best, unless the program has chosen one.
@@ -26,16 +29,28 @@ void takeFirstSize(QWidget* window)
         window->adjustSize();
 }
 
-// Who hears of what happens to one of them may delete any.
-std::vector<QGuardedPtr<QWidget>> guardedChildren(QWidget* widget)
+// What a widget hears before it is shown; false if that was its end.
+bool prepareToShow(QWidget* widget)
 {
-    const std::vector<QWidget*> children = zeltk::childWidgets(widget);
-    return std::vector<QGuardedPtr<QWidget>>(children.begin(), children.end());
+    const QGuardedPtr<QWidget> alive(widget);
+    if (!deliver(widget, QEvent::ChildInserted))
+        return false;
+    widget->constPolish();
+    if (!alive)
+        return false;
+    if (widget->isTopLevel())
+        takeFirstSize(widget);
+    // A layout may enlarge it when it hears of its size.
+    if (!deliver(widget, QEvent::Move) || !deliver(widget, QEvent::Resize) ||
+        (widget->layout() && !deliver(widget, QEvent::Resize)))
+        return false;
+    QWidget* container = widget->parentWidget(true);
+    return !container || (deliver(container, QEvent::ChildInserted) && alive);
 }
 
 void showChildren(QWidget* widget)
 {
-    for (const QGuardedPtr<QWidget>& child : guardedChildren(widget))
+    for (const QGuardedPtr<QWidget>& child : zeltk::guardedChildren(widget))
         if (child && !child->isTopLevel() && !child->isHidden())
             child->show();
 }
@@ -43,7 +58,7 @@ void showChildren(QWidget* widget)
 // Windows inside a hidden one need not be unmapped; they reappear with it.
 void hideChildren(QWidget* widget)
 {
-    for (const QGuardedPtr<QWidget>& child : guardedChildren(widget)) {
+    for (const QGuardedPtr<QWidget>& child : zeltk::guardedChildren(widget)) {
         if (!child || child->isTopLevel() || !child->isVisible())
             continue;
         WidgetAccess::clearState(child, Qt::WState_Visible);
@@ -125,7 +140,7 @@ void QWidget::show()
     const bool wasHidden = isHidden();
     clearWState(WState_ForceHide);
     w->selfHidden = false;
-    QWidget* container = isTopLevel() ? 0 : parentWidget();
+    QWidget* container = parentWidget(true);
     if (wasHidden)
         updateGeometry();
     if (container && !container->isVisible()) {
@@ -133,16 +148,8 @@ void QWidget::show()
             sendPlain(this, QEvent::ShowToParent);
         return;
     }
-    deliver(this, QEvent::ChildInserted);
-    constPolish();
-    if (isTopLevel())
-        takeFirstSize(this);
-    deliver(this, QEvent::Move);
-    deliver(this, QEvent::Resize);
-    if (layout())
-        deliver(this, QEvent::Resize); // the layout may have enlarged it
-    if (container)
-        deliver(container, QEvent::ChildInserted);
+    if (!prepareToShow(this))
+        return;
     setWState(WState_Visible);
     zeltk::applyBackground(this); // the group of a visible widget depends on its window
     const QGuardedPtr<QWidget> alive(this);
@@ -190,16 +197,20 @@ void QWidget::polish()
     if (testWState(WState_Polished))
         return;
     setWState(WState_Polished);
+    const QGuardedPtr<QWidget> alive(this);
     zeltk::ensureStyled();
-    qApp->polish(this);
+    if (alive)
+        qApp->polish(this);
 }
 
 void QWidget::constPolish() const
 {
     if (!testWState(WState_Polished)) {
         QWidget* that = const_cast<QWidget*>(this);
+        const QGuardedPtr<QWidget> alive(that);
         that->polish();
-        that->setWState(WState_Polished);
+        if (alive)
+            that->setWState(WState_Polished);
     }
 }
 
@@ -254,7 +265,8 @@ bool QWidget::close(bool alsoDelete)
 }
 
 // The server's window lives on, so that all inside it come along; only its place changes. Focus and Tab order
-// are of a window, and stay where that stays the same.
+// are of a window, and stay where that stays the same. If the parent dies meanwhile it remains a hidden
+// window.
 void QWidget::reparent(QWidget* parent, WFlags f, const QPoint& pos, bool showIt)
 {
     const QSize keptSize = size();
@@ -268,16 +280,19 @@ void QWidget::reparent(QWidget* parent, WFlags f, const QPoint& pos, bool showIt
                 forgetVisible(child);
     }
     const QGuardedPtr<QWidget> alive(this);
+    const QGuardedPtr<QWidget> newParent(parent);
     zeltk::widgetLeavesPlace(this, leavesWindow);
     if (!alive)
         return;
     hideWindow(this);
+    zeltk::rehangWindow(this, newParent, f);
     if (QObject* old = this->parent())
         old->removeChild(this);
-    if (parent)
-        parent->insertChild(this);
-    zeltk::rehangWindow(this, f);
-    if (!parent || isTopLevel() || w->selfHidden || parent->isVisible())
+    if (newParent && alive)
+        newParent->insertChild(this);
+    if (!alive)
+        return;
+    if (!newParent || isTopLevel() || w->selfHidden || newParent->isVisible())
         setWState(WState_ForceHide);
     else
         clearWState(WState_ForceHide);
@@ -287,8 +302,9 @@ void QWidget::reparent(QWidget* parent, WFlags f, const QPoint& pos, bool showIt
     if (!alive)
         return;
     zeltk::inheritLook(this);
-    setGeometry(pos.x(), pos.y(), keptSize.width(), keptSize.height());
-    if (showIt)
+    if (alive)
+        setGeometry(pos.x(), pos.y(), keptSize.width(), keptSize.height());
+    if (showIt && alive && (newParent || !parent))
         show();
     if (alive)
         sendPlain(this, QEvent::Reparent);

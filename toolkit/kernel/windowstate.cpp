@@ -50,10 +50,7 @@ void tellVisible(QWidget* widget)
     zeltk::sendSpontaneous(widget, &event);
     if (!alive)
         return;
-    std::vector<QGuardedPtr<QWidget>> children;
-    for (QWidget* child : zeltk::childWidgets(widget))
-        children.emplace_back(child);
-    for (const QGuardedPtr<QWidget>& child : children)
+    for (const QGuardedPtr<QWidget>& child : zeltk::guardedChildren(widget))
         if (child && !child->isTopLevel() && child->isVisible())
             tellVisible<Event>(child);
 }
