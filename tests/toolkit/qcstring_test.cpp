@@ -1,6 +1,7 @@
 // 8-bit strings, byte arrays, and the C string functions.
 #include "printers.h"
 
+#include <climits>
 #include <gtest/gtest.h>
 #include <qcstring.h>
 #include <qstring.h>
@@ -170,7 +171,16 @@ TEST(Rounding, HalvesGoUp)
     const struct {
         double value;
         int rounded;
-    } cases[] = {{2.5, 3}, {-2.5, -2}, {2.4, 2}, {-2.6, -3}, {-2.4, -2}, {0.5, 1}, {-0.5, 0}, {0, 0}};
+    } cases[] = {{2.5, 3},
+                 {-2.5, -2},
+                 {2.4, 2},
+                 {-2.6, -3},
+                 {-2.4, -2},
+                 {0.5, 1},
+                 {-0.5, 0},
+                 {0, 0},
+                 {-2147483648.0, INT_MIN},
+                 {-2147483648.4, INT_MIN}};
     for (const auto& each : cases)
         EXPECT_EQ(each.rounded, qRound(each.value)) << each.value;
 }

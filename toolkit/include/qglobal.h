@@ -50,8 +50,10 @@ typedef Q_UINT64 Q_ULLONG;
 //! Rounds to the nearest integer; a half goes up.
 inline int qRound(double value)
 {
-    // lround() would round a negative half down. NOLINTNEXTLINE(bugprone-incorrect-roundings)
-    return value >= 0.0 ? int(value + 0.5) : int(value - double(int(value - 1)) + 0.5) + int(value - 1);
+    if (value >= 0.0)
+        return int(value + 0.5); // lround() rounds a negative half down. NOLINT(bugprone-incorrect-roundings)
+    const int cut = int(value);
+    return value - double(cut) < -0.5 ? cut - 1 : cut;
 }
 
 //! The version of the Qt API that this library offers, as text.
