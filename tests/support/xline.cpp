@@ -195,10 +195,22 @@ private:
             take(&m_down.incomplete, 32 + (longer ? 4 * size_t(read<CARD32>(data.data(), 4)) : 0));
         if (answer.empty())
             return answer;
-        m_line->m_answers += type == X_Reply;
+        if (type == X_Reply)
+            countAnswer(read<CARD16>(answer.data(), 2));
         if (type == X_Error)
             disguise(&answer[0]);
         return answer;
+    }
+
+    // Who asks for several things together waits once: for the first answer. All that was asked by then comes
+    // with it.
+    void countAnswer(CARD16 number)
+    {
+        const unsigned long asked = m_requests - static_cast<CARD16>(m_requests - number);
+        if (asked <= m_waited)
+            return;
+        m_waited = m_requests;
+        ++m_line->m_answers;
     }
 
     void disguise(char* error)
@@ -215,6 +227,7 @@ private:
     Direction m_up, m_down;
     bool m_greeted = false, m_greetedBack = false;
     unsigned long m_requests = 0;
+    unsigned long m_waited = 0;        // of the requests, those whose answers the program has waited for
     std::map<CARD16, CARD32> m_failed; // what they would have made, by the number of the request
 };
 

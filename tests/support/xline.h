@@ -23,8 +23,7 @@ public:
     // Of the display, as ":5000".
     const std::string& name() const { return m_name; }
 
-    // The answers of the server so far, each of which a program waited for; and those before the first window
-    // was shown.
+    // How often a program waited for the server so far; and before the first window was shown.
     unsigned answers() const { return m_answers; }
     unsigned answersAtFirst() const { return m_answersAtFirst; }
     unsigned requests() const { return m_requests; }

@@ -1,5 +1,6 @@
 // A program whose X server is far away: a line that takes 50 ms each way and counts the answers that the
 // program waits for. The tests' own hands and eyes are close to the server.
+#include "signalrecorder.h"
 #include "xinput.h"
 #include "xline.h"
 
@@ -34,7 +35,8 @@ public:
     Window() : QWidget(nullptr, "window")
     {
         QVBoxLayout* layout = new QVBoxLayout(this, 8, 6);
-        layout->addWidget(new ZelActiveLabel("A label", this, "label"));
+        layout->addWidget(label = new ZelActiveLabel("A label", this, "label"));
+        label->setMinimumSize(60, 20); // it asks for no room by itself
         layout->addWidget(edit = new ZelLineEdit(this));
         layout->addWidget(graph = new ZelGraph(this));
         graph->setMinimumSize(300, 100);
@@ -43,6 +45,7 @@ public:
     ~Window() override { QApplication::syncX(); }
 
     int painted = 0;
+    ZelActiveLabel* label;
     ZelLineEdit* edit;
     ZelGraph* graph;
 
@@ -133,5 +136,19 @@ TEST_F(SlowLine, KeysAreTypedWithoutWaiting)
     const unsigned byHands = 2 * 8; // which let the program finish before each press and each release
     xinput::typeText("patience");
     EXPECT_TRUE(handleEventsUntil([&] { return window.edit->text() == "patience"; }));
+    EXPECT_EQ(before + byHands + 1, answersNow());
+}
+
+TEST_F(SlowLine, AClickArrives)
+{
+    Window window;
+    window.show();
+    EXPECT_TRUE(handleEventsUntil([&] { return window.painted > 0; }));
+    SignalRecorder clicks;
+    clicks.watch(window.label, SIGNAL(clicked()));
+    const unsigned before = answersNow();
+    const unsigned byHands = 4; // to find the place, and before each motion, press and release
+    xinput::click(window.label, 5, 5);
+    EXPECT_TRUE(handleEventsUntil([&] { return clicks.count() == 1; }));
     EXPECT_EQ(before + byHands + 1, answersNow());
 }

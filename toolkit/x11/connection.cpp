@@ -29,6 +29,30 @@ std::map<std::string, Atom>& atoms()
     return known;
 }
 
+// What nearly every program needs is asked for together: over a slow line each answer takes its time.
+void learnAtoms()
+{
+    const char* const names[] = {"CLIPBOARD",
+                                 "UTF8_STRING",
+                                 "WM_DELETE_WINDOW",
+                                 "WM_PROTOCOLS",
+                                 "WM_STATE",
+                                 "_MOTIF_WM_HINTS",
+                                 "_NET_WM_CONTEXT_HELP",
+                                 "_NET_WM_ICON_NAME",
+                                 "_NET_WM_NAME",
+                                 "_NET_WM_PING",
+                                 "_NET_WM_WINDOW_TYPE_DIALOG",
+                                 "_NET_WM_WINDOW_TYPE_NORMAL",
+                                 "_NET_WM_WINDOW_TYPE_UTILITY",
+                                 "_ZELTK_TIME"};
+    const int count = sizeof names / sizeof names[0];
+    Atom found[count];
+    XInternAtoms(server, const_cast<char**>(names), count, False, found);
+    for (int i = 0; i < count; ++i)
+        atoms()[names[i]] = found[i];
+}
+
 } // namespace
 
 bool openConnection(const std::string& name)
@@ -36,9 +60,11 @@ bool openConnection(const std::string& name)
     if (server)
         return true;
     server = XOpenDisplay(name.empty() ? nullptr : name.c_str());
-    if (server)
-        watchErrors();
-    return server != nullptr;
+    if (!server)
+        return false;
+    watchErrors();
+    learnAtoms();
+    return true;
 }
 
 bool connected()
