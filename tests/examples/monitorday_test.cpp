@@ -13,6 +13,7 @@
 #include <qapplication.h>
 #include <qeventloop.h>
 
+#include <climits>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
@@ -135,7 +136,8 @@ TEST(MonitorDay, GoesOnWhateverTheClockOnTheWallSays)
     MonitorWindow window(machine.folder());
     showAndWait(&window);
     window.run(1000);
-    for (const time_t setting : {990000L, 2000000L, 0L, -86400L, 2147483600L, -2147483648L, 1000000L}) {
+    const time_t settings[] = {990000, 2000000, 0, -86400, 2147483600, INT_MIN, 1000000};
+    for (const time_t setting : settings) {
         clock.setWall(static_cast<time_t>(setting));
         const int before = life.seconds;
         const XTraffic sent = sentToX();
