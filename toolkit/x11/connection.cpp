@@ -132,8 +132,10 @@ void flush()
 
 void sync()
 {
-    if (server)
-        XSync(server, False);
+    if (!server)
+        return;
+    XSync(server, False);
+    endIfLost();
 }
 
 XId atom(const char* name)

@@ -89,9 +89,8 @@ int reportLoss(Display*)
 // Writing to a lost connection brings this signal first. Other broken pipes end the program as ever.
 void onBrokenPipe(int)
 {
-    pollfd server = {connectionFd(), POLLIN, 0};
-    if (connected() && poll(&server, 1, 0) > 0 && (server.revents & (POLLHUP | POLLERR)))
-        reportLoss(nullptr);
+    if (connected())
+        endIfLost();
     std::signal(SIGPIPE, SIG_DFL);
     std::raise(SIGPIPE);
 }
@@ -111,6 +110,13 @@ void watchErrors()
     XSetErrorHandler(reportError);
     XSetIOErrorHandler(reportLoss);
     watchBrokenPipes();
+}
+
+void endIfLost()
+{
+    pollfd server = {connectionFd(), POLLIN, 0};
+    if (poll(&server, 1, 0) > 0 && (server.revents & (POLLHUP | POLLERR)))
+        reportLoss(nullptr);
 }
 
 void setErrorHandler(ErrorHandler h)

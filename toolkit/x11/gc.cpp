@@ -1,6 +1,7 @@
 // Graphics contexts, kept for use again.
 #include "x11/gc.h"
 
+#include "x11/errors.h"
 #include "x11/xlib.h"
 #include "x11/xrectangles.h"
 
@@ -55,10 +56,12 @@ void set(GcSlot* slot, const GcKey& key)
         slot->lost = false;
     }
     const bool wasClipped = slot->gc && slot->key.clip;
-    if (slot->gc)
+    if (slot->gc) {
         XChangeGC(display(), slot->gc, mask, &values);
-    else
+    } else {
+        endIfLost();
         slot->gc = XCreateGC(display(), exampleDrawable(key.bitmap), mask, &values);
+    }
     if (!key.dashes.empty())
         XSetDashes(display(), slot->gc, 0, key.dashes.data(), static_cast<int>(key.dashes.size()));
     if (key.clip) {

@@ -2,6 +2,7 @@
 #include "x11/pixmap.h"
 
 #include "x11/colors.h"
+#include "x11/errors.h"
 #include "x11/gc.h"
 #include "x11/textdraw.h"
 #include "x11/xlib.h"
@@ -59,6 +60,7 @@ XId createPixmap(int width, int height, int depth)
             kept.erase(spare);
             return pixmap;
         }
+    endIfLost();
     return XCreatePixmap(display(), rootWindow(), static_cast<unsigned>(width), static_cast<unsigned>(height),
                          static_cast<unsigned>(depth));
 }

@@ -2,6 +2,7 @@
 #include "x11/window.h"
 
 #include "x11/colors.h"
+#include "x11/errors.h"
 #include "x11/gc.h"
 #include "x11/textdraw.h"
 #include "x11/xlib.h"
@@ -47,6 +48,7 @@ XId createWindow(XId parent, int x, int y, int width, int height, bool topLevel,
     attributes.border_pixel = 0;
     attributes.bit_gravity = ForgetGravity;
     attributes.background_pixmap = XNone;
+    endIfLost();
     return XCreateWindow(display(), parent, onWire(x), onWire(y), static_cast<unsigned>(width),
                          static_cast<unsigned>(height), 0, CopyFromParent, InputOutput, CopyFromParent,
                          kindFields | CWBorderPixel | CWBitGravity | CWBackPixmap, &attributes);
