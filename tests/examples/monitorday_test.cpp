@@ -3,6 +3,7 @@
 #include "examplemachine.h"
 #include "fastclock.h"
 #include "hands.h"
+#include "memoryuse.h"
 #include "monitorwindow.h"
 #include "pixels.h"
 #include "serverresources.h"
@@ -16,35 +17,10 @@
 #include <climits>
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
-#include <malloc.h>
 #include <string>
-#include <unistd.h>
-
-#if defined(__SANITIZE_ADDRESS__)
-extern "C" size_t __sanitizer_get_current_allocated_bytes(void); // gcc installs no header with it
-#endif
 
 namespace
 {
-
-size_t heapInUse()
-{
-#if defined(__SANITIZE_ADDRESS__)
-    return __sanitizer_get_current_allocated_bytes();
-#else
-    return mallinfo2().uordblks;
-#endif
-}
-
-// Kibibytes of memory of a process.
-size_t residentMemory(const char* process)
-{
-    std::ifstream file(std::string("/proc/") + process + "/statm");
-    size_t all = 0, resident = 0;
-    file >> all >> resident;
-    return resident * static_cast<size_t>(sysconf(_SC_PAGESIZE)) / 1024;
-}
 
 // What the machine does in each second.
 class Life : public QObject
@@ -73,8 +49,7 @@ struct Taken {
 Taken takenNow(const QWidget& window)
 {
     settle();
-    const char* const server = std::getenv("XVFB_PROCESS");
-    return {heapInUse(), residentMemory("self"), server ? residentMemory(server) : 0,
+    return {heapInUse(), residentMemory("self"), residentMemory(std::getenv("XVFB_PROCESS")),
             serverResources(window.winId())};
 }
 

@@ -1,21 +1,6 @@
 // The X server has no memory left for what the program wants to make: the n-th window, pixmap, GC, font,
 // cursor, picture or set of glyphs, for all n. Each is told once, and the program goes on.
-#include <colordlg.h>
-#include <colorgroupdlg.h>
-#include <fontdlg.h>
-#include <zelactivelabel.h>
-#include <zelactivelabel2.h>
-#include <zelcolorbutton.h>
-#include <zelcombobox.h>
-#include <zeledge.h>
-#include <zelframe.h>
-#include <zelgraph.h>
-#include <zellabel.h>
-#include <zellineedit.h>
-#include <zellineeditint.h>
-#include <zelpushbutton.h>
-#include <zelpushbutton2.h>
-
+#include "allclasses.h"
 #include "messages.h"
 #include "sentevents.h"
 #include "xinput.h"
@@ -26,7 +11,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <set>
 #include <string>
 
 namespace
@@ -43,28 +27,6 @@ struct FullServer {
 };
 FullServer server;
 
-typedef QWidget* (*Maker)(QWidget* parent);
-const struct {
-    const char* name;
-    Maker make;
-} classes[] = {
-    {"ZelActiveLabel", [](QWidget* p) -> QWidget* { return new ZelActiveLabel("text", p, "w"); }},
-    {"ZelActiveLabel2", [](QWidget* p) -> QWidget* { return new ZelActiveLabel2(p, "w"); }},
-    {"ZelLabel", [](QWidget* p) -> QWidget* { return new ZelLabel("text", p, "w", true, 0); }},
-    {"ZelColorButton", [](QWidget* p) -> QWidget* { return new ZelColorButton(p, "w"); }},
-    {"ZelPushButton", [](QWidget* p) -> QWidget* { return new ZelPushButton(Qt::red, p, "w"); }},
-    {"ZelPushButton2", [](QWidget* p) -> QWidget* { return new ZelPushButton2("text", p, "w"); }},
-    {"ZelFrame", [](QWidget* p) -> QWidget* { return new ZelFrame(p, "w", 0); }},
-    {"ZelEdge", [](QWidget* p) -> QWidget* { return new ZelEdge(p, "w"); }},
-    {"ZelLineEdit", [](QWidget* p) -> QWidget* { return new ZelLineEdit(p, "w"); }},
-    {"ZelComboBox", [](QWidget* p) -> QWidget* { return new ZelComboBox(true, p, "w"); }},
-    {"ZelLineEditInt", [](QWidget* p) -> QWidget* { return new ZelLineEditInt(p, "w", 0, 9); }},
-    {"ZelGraph", [](QWidget* p) -> QWidget* { return new ZelGraph(p, "w", true, 0); }},
-    {"ZelColorDlg", [](QWidget* p) -> QWidget* { return new ZelColorDlg(Qt::red, p, "w"); }},
-    {"ZelColorGroupDlg", [](QWidget* p) -> QWidget* { return new ZelColorGroupDlg(p, "w", false, 0); }},
-    {"ZelFontDlg", [](QWidget* p) -> QWidget* { return new ZelFontDlg(p, "w", false, 0); }},
-};
-
 void handleEverything()
 {
     for (int round = 0; round < 2; ++round) {
@@ -74,11 +36,11 @@ void handleEverything()
 }
 
 // A life with everything in it that a user does; in a window of its own.
-void live(Maker make)
+void live(const NamedClass& type)
 {
     QWidget window(nullptr, "window");
     window.setGeometry(100, 100, 300, 200);
-    QWidget* widget = make(&window);
+    QWidget* widget = type.make(&window);
     window.show();
     widget->show();
     handleEverything();
@@ -109,20 +71,20 @@ long lacks()
 TEST(ServerErrors, EveryCreationMayFailOnceAndIsTold)
 {
     int failed = 0;
-    for (const auto& each : classes) {
+    for (const NamedClass& each : allClasses()) {
         SCOPED_TRACE(each.name);
-        live(each.make);
+        live(each);
         handleEverything();
         takeMessages();
         server.line.failCreation(-1);
-        live(each.make);
+        live(each);
         handleEverything();
         const int count = server.line.creations();
         EXPECT_GT(count, 1);
         EXPECT_EQ("", takeMessages());
         for (int n = 0; n < count; ++n) {
             server.line.failCreation(n);
-            live(each.make);
+            live(each);
             handleEverything();
             if (server.line.creations() > n) {
                 EXPECT_EQ(1, lacks()) << n << "\n" << takeMessages();
@@ -134,12 +96,12 @@ TEST(ServerErrors, EveryCreationMayFailOnceAndIsTold)
     EXPECT_GT(failed, 50);
     // Once there is memory again, nothing is left of it: a second life of each is like any other.
     server.line.failCreation(-1);
-    for (const auto& each : classes)
-        live(each.make);
+    for (const NamedClass& each : allClasses())
+        live(each);
     handleEverything();
     takeMessages();
-    for (const auto& each : classes) {
-        live(each.make);
+    for (const NamedClass& each : allClasses()) {
+        live(each);
         handleEverything();
         EXPECT_EQ("", takeMessages()) << each.name;
     }
