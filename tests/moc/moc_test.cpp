@@ -145,6 +145,30 @@ TEST_F(Moc, CommentsStringsAndTemplatesAreNoTrap)
     EXPECT_EQ(table(result, "slotTable"), "ok();");
 }
 
+TEST_F(Moc, ALineCommentEndsWithItsLineWhateverItSays)
+{
+    const Result result = run("//****************\n// what stands in /etc/*\n" +
+                              inClass("  //* see below\npublic slots:\n    void ok();\n"));
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_EQ(table(result, "slotTable"), "ok();");
+}
+
+TEST_F(Moc, DirectivesHideNothingBehindThem)
+{
+    const Result result = run(
+        "#define FILES \"/*\"\n#define QUOTE '\\\"'\n#error don't \" say so\n#define BACK \"\\\\\" // /*\n"
+        "#define LONG /* goes\n on */ {\n#define JOINED \\\r\n {\r\n" +
+        inClass("public slots:\n    void ok();\n"));
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_EQ(table(result, "slotTable"), "ok();");
+}
+
+TEST_F(Moc, LinesThatAreJoinedInAStringCount)
+{
+    const Result result = run("const char* text = \"one \\\n two \\\r\n three\";\n}");
+    EXPECT_EQ(result.errors.substr(0, 10), "input.h:4:") << result.errors;
+}
+
 TEST_F(Moc, MacrosOfQtAreSkipped)
 {
     const Result result = run(
@@ -254,6 +278,7 @@ TEST_F(Moc, FilesThatCannotBeReadOrWrittenAreErrors)
 {
     EXPECT_EQ(runOn("nowhere.h", "-i").status, 1);
     EXPECT_EQ(runOn("nowhere.h", "-i").errors, "zeltk-moc: nowhere.h: cannot be read\n");
+    EXPECT_EQ(runOn(".", "-i").errors, "zeltk-moc: .: cannot be read\n");
     EXPECT_EQ(run(inClass(""), "-o no/such/folder/x").errors,
               "zeltk-moc: no/such/folder/x: cannot be written\n");
     EXPECT_EQ(runOn("", "").status, 1);

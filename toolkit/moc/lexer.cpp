@@ -58,7 +58,7 @@ private:
         } else if (c == '/' && at(1) == '*') {
             skipComment();
         } else if (c == '#' && lineStart) {
-            skipLine();
+            skipDirective();
         } else if (startsWord(c)) {
             readWord();
         } else if (std::isdigit(static_cast<unsigned char>(c)) ||
@@ -74,19 +74,55 @@ private:
     // To the end of the line, and on where a backslash joins the next one.
     void skipLine()
     {
-        while (place < source.size() && source[place] != '\n') {
-            if (at(0) == '/' && at(1) == '*' && lineStart) {
+        while (place < source.size() && at(0) != '\n')
+            skipCharacter();
+    }
+
+    // A comment in it may end on another line; what looks like one in a string does not count.
+    void skipDirective()
+    {
+        while (place < source.size() && at(0) != '\n') {
+            if (at(0) == '/' && at(1) == '/')
+                skipLine();
+            else if (at(0) == '/' && at(1) == '*')
                 skipComment();
-                continue;
-            }
-            if (at(0) == '\\' && at(1) == '\r' && at(2) == '\n')
+            else if (at(0) == '"')
+                skipString();
+            else
+                skipCharacter();
+        }
+    }
+
+    // One that does not end, as in the text of an #error, goes to the end of the line.
+    void skipString()
+    {
+        ++place;
+        while (place < source.size() && at(0) != '"' && at(0) != '\n') {
+            if (at(0) == '\\' && (at(1) == '"' || at(1) == '\\'))
                 ++place;
-            if (at(0) == '\\' && at(1) == '\n') {
-                ++line;
-                ++place;
-            }
+            skipCharacter();
+        }
+        if (at(0) == '"')
+            ++place;
+    }
+
+    void skipCharacter()
+    {
+        if (const size_t length = joinLength(0)) {
+            place += length;
+            ++line;
+        } else {
             ++place;
         }
+    }
+
+    // Of a backslash and the end of line behind it; 0 without.
+    size_t joinLength(size_t offset) const
+    {
+        if (at(offset) != '\\')
+            return 0;
+        const size_t end = at(offset + 1) == '\r' ? 2 : 1;
+        return at(offset + end) == '\n' ? end + 1 : 0;
     }
 
     void skipComment()
@@ -107,8 +143,8 @@ private:
             ++length;
         const std::string word = source.substr(place, length);
         const bool prefix = word == "L" || word == "u" || word == "U" || word == "u8";
-        if (at(length) == '"' && !word.empty() && word.back() == 'R' &&
-            (word == "R" || word == "LR" || word == "uR" || word == "UR" || word == "u8R"))
+        const bool raw = word == "R" || word == "LR" || word == "uR" || word == "UR" || word == "u8R";
+        if (raw && at(length) == '"')
             readRawString(length);
         else if (prefix && (at(length) == '"' || at(length) == '\''))
             readLiteral(length);
@@ -129,14 +165,20 @@ private:
 
     void readLiteral(size_t prefix)
     {
+        const int start = line;
         const char quote = at(prefix);
         size_t length = prefix + 1;
         while (at(length) != quote) {
             if (at(length) == '\0' || at(length) == '\n')
                 throw Error(line, quote == '"' ? "the string does not end" : "the character does not end");
-            length += at(length) == '\\' ? 2 : 1;
+            if (const size_t join = joinLength(length)) {
+                length += join;
+                ++line;
+            } else {
+                length += at(length) == '\\' ? 2 : 1;
+            }
         }
-        add(Token::Literal, length + 1, line);
+        add(Token::Literal, length + 1, start);
     }
 
     void readRawString(size_t prefix)

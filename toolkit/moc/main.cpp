@@ -93,14 +93,18 @@ std::string includeName(const Options& options)
     const std::filesystem::path folder = std::filesystem::path(options.output).parent_path();
     if (input.is_absolute() || folder.empty())
         return options.input;
-    return std::filesystem::proximate(input, folder).string();
+    std::error_code error;
+    const std::filesystem::path near = std::filesystem::proximate(input, folder, error);
+    return error ? options.input : near.string();
 }
 
 int run(const Options& options)
 {
     std::ifstream file(options.input, std::ios::binary);
     std::ostringstream source;
-    if (!file || (file.peek() != std::ifstream::traits_type::eof() && !(source << file.rdbuf())))
+    if (file.peek() != std::ifstream::traits_type::eof())
+        source << file.rdbuf();
+    if (!file.is_open() || file.bad() || !source)
         return fail(options.input + ": cannot be read");
     try {
         const moc::Contents contents = moc::parse(source.str());

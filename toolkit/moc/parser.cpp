@@ -167,43 +167,40 @@ private:
     }
 
     // The last word before the base classes or the body is the name; export macros stand before it.
+    std::string readClassName()
+    {
+        std::string name;
+        while (at().kind == Token::Word || at().is("::") || at().is("(") || at().is("[") || at().is("<")) {
+            if (at().is("(")) {
+                skipBalanced("(", ")");
+            } else if (at().is("[")) {
+                skipBalanced("[", "]");
+            } else if (at().is("<")) {
+                skipBalanced("<", ">");
+            } else if (at().is("final") && (at(1).is(":") || at(1).is("{"))) {
+                next();
+            } else {
+                const bool continued = at().is("::") || (!name.empty() && name.back() == ':');
+                name = continued ? name + at().text : at().text;
+                next();
+            }
+        }
+        return name;
+    }
+
     void readClass(const std::string& scope)
     {
         Class found;
         found.line = at().line;
         found.hasMacro = false;
-        const bool isStruct = at().is("struct");
+        const Access access = at().is("struct") ? Access::Public : Access::Private;
         next();
-        std::string name;
-        while (at().kind == Token::Word || at().is("::") || at().is("(") || at().is("[") || at().is("<")) {
-            if (at().is("(")) {
-                skipBalanced("(", ")");
-                continue;
-            }
-            if (at().is("[")) {
-                skipBalanced("[", "]");
-                continue;
-            }
-            if (at().is("<")) {
-                skipBalanced("<", ">");
-                continue;
-            }
-            if (at().is("final") && (at(1).is(":") || at(1).is("{"))) {
-                next();
-                continue;
-            }
-            const bool continued = at().is("::") || (!name.empty() && name.back() == ':');
-            if (!continued)
-                name.clear();
-            name += at().text;
-            next();
-        }
+        const std::string name = readClassName();
         if (!at().is(":") && !at().is("{")) {
             skipStatement(); // only named here, or used as a type
             return;
         }
         found.name = scope + name;
-        const Access access = isStruct ? Access::Public : Access::Private;
         if (take(":"))
             readBases(&found, access);
         if (!take("{"))
