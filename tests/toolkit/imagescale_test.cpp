@@ -134,3 +134,12 @@ TEST(ScaledImage, IsNullWithoutSize)
     EXPECT_EQ("QImage::scale: Image is a null image\nQImage::smoothScale: Image is a null image\n",
               takeMessages());
 }
+
+TEST(ScaledImage, OfMillionsOfRowsKeepsTheirColour)
+{
+    QImage image(1, 17000000, 32);
+    image.fill(0xff204060);
+    const QImage small = image.smoothScale(1, 3);
+    for (int y = 0; y < 3; ++y)
+        EXPECT_EQ(0xff204060, small.pixel(0, y));
+}

@@ -5,6 +5,7 @@
 #include <qimage.h>
 #include <qpixmap.h>
 
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
@@ -44,6 +45,39 @@ QImage gradient(bool alpha)
     return image;
 }
 
+std::string contentsOf(const std::string& file)
+{
+    std::ifstream in(file, std::ios::binary);
+    return std::string((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+}
+
+std::string fourBytes(std::uint32_t number)
+{
+    return {static_cast<char>(number >> 24), static_cast<char>(number >> 16), static_cast<char>(number >> 8),
+            static_cast<char>(number)};
+}
+
+// The check sum that ends each part of a PNG file.
+std::uint32_t checkSum(const std::string& part)
+{
+    std::uint32_t sum = 0xffffffff;
+    for (const char c : part) {
+        sum ^= static_cast<std::uint8_t>(c);
+        for (int bit = 0; bit < 8; ++bit)
+            sum = sum & 1 ? sum >> 1 ^ 0xedb88320 : sum >> 1;
+    }
+    return ~sum;
+}
+
+// The file of a small picture, whose header says that it is larger. The header follows eight bytes of
+// signature and four of length; its name is followed by width and height.
+std::string claimingToBe(std::uint32_t width, std::uint32_t height, std::string file)
+{
+    const size_t header = 12, length = 17;
+    file.replace(header + 4, 8, fourBytes(width) + fourBytes(height));
+    return file.replace(header + length, 4, fourBytes(checkSum(file.substr(header, length))));
+}
+
 } // namespace
 
 TEST_F(Png, ComesBackAsItWasSaved)
@@ -60,8 +94,7 @@ TEST_F(Png, ComesBackAsItWasSaved)
 TEST_F(Png, IsReadFromMemoryToo)
 {
     ASSERT_TRUE(gradient(true).save(file.c_str(), "PNG"));
-    std::ifstream in(file, std::ios::binary);
-    const std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    const std::string bytes = contentsOf(file);
     QByteArray data;
     data.duplicate(bytes.data(), static_cast<uint>(bytes.size()));
     QImage image;
@@ -134,6 +167,28 @@ TEST_F(Png, ThatIsMissingOrBrokenFailsAndKeepsTheImage)
     }
     EXPECT_FALSE(image.load(file.c_str()));
     EXPECT_TRUE(QPixmap(file.c_str()).isNull());
+}
+
+TEST_F(Png, ThatIsAFolderFails)
+{
+    EXPECT_TRUE(QImage(folder.c_str()).isNull());
+    EXPECT_TRUE(QPixmap(folder.c_str()).isNull());
+    EXPECT_FALSE(QImage::imageFormat(folder.c_str()));
+}
+
+// 65536 times 65536 pixels of four bytes are 0 bytes where a size has 32 bits.
+TEST_F(Png, ThatClaimsMorePixelsThanAnImageCanHaveFails)
+{
+    ASSERT_TRUE(gradient(true).save(file.c_str(), "PNG"));
+    const std::string small = contentsOf(file);
+    QImage image;
+    const std::string same = claimingToBe(23, 17, small);
+    EXPECT_TRUE(image.loadFromData(reinterpret_cast<const uchar*>(same.data()), uint(same.size())));
+    for (const std::uint32_t extent : {65536u, 1000000u}) {
+        const std::string large = claimingToBe(extent, extent, small);
+        EXPECT_FALSE(image.loadFromData(reinterpret_cast<const uchar*>(large.data()), uint(large.size())));
+    }
+    EXPECT_EQ(gradient(true), image);
 }
 
 TEST_F(Png, IsNotSavedWhereItCannotBe)

@@ -7,17 +7,20 @@
 
 #include <algorithm>
 #include <fstream>
-#include <iterator>
+#include <sstream>
 
 namespace
 {
 
 const char formatName[] = "PNG";
 
+// Empty if the file cannot be read, as a folder cannot.
 std::string contentsOf(const QString& fileName)
 {
     std::ifstream file(zeltk::toUtf8(fileName), std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
+    std::ostringstream contents;
+    contents << file.rdbuf();
+    return contents.str();
 }
 
 const uchar* bytesOf(const std::string& file)

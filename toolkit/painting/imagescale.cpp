@@ -14,7 +14,7 @@ namespace
 class Average
 {
 public:
-    Average(int unit, bool byAlpha) : unit_(unit), byAlpha_(byAlpha) { clear(); }
+    Average(long long unit, bool byAlpha) : unit_(unit), byAlpha_(byAlpha) { clear(); }
     void clear() { alpha_ = red_ = green_ = blue_ = unit_ / 2; }
     void add(QRgb pixel, long long parts);
     QRgb pixel() const;
@@ -22,7 +22,7 @@ public:
 private:
     int value(long long sum) const;
 
-    int unit_; // the parts of a whole pixel
+    long long unit_; // the parts of a whole pixel
     bool byAlpha_;
     long long alpha_, red_, green_, blue_;
 };
@@ -50,9 +50,9 @@ QRgb Average::pixel() const
 
 // A line of `size` pixels out of `count` old ones; `stride` is from one to the next. An old pixel gives a
 // whole number of parts, so that the last one may have to fill up what is missing.
-void averageLine(const QRgb* from, int count, QRgb* to, int size, int stride, Average average, int unit)
+void averageLine(const QRgb* from, int count, QRgb* to, int size, int stride, Average average, long long unit)
 {
-    const long long partsOfOne = static_cast<long long>(size) * unit / count;
+    const long long partsOfOne = size * unit / count;
     long long missing = unit;
     const auto finish = [&](QRgb pixel) {
         average.add(pixel, missing);
@@ -78,8 +78,8 @@ void averageLine(const QRgb* from, int count, QRgb* to, int size, int stride, Av
 std::vector<QRgb> averaged(const std::vector<QRgb>& from, const QSize& size, const QSize& wanted,
                            bool byAlpha)
 {
-    int unit = size.width();
-    while (unit < 4096 || unit < 128 * size.height())
+    long long unit = size.width();
+    while (unit < 4096 || unit < 128LL * size.height())
         unit *= 2;
     const Average average(unit, byAlpha);
     std::vector<QRgb> rows(static_cast<size_t>(size.width()) * static_cast<size_t>(wanted.height()));

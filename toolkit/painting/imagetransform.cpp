@@ -5,7 +5,6 @@
 #include <qwmatrix.h>
 
 #include <algorithm>
-#include <cmath>
 
 namespace zeltk
 {
@@ -45,10 +44,8 @@ QImage transformed(const QImage& image, const QWMatrix& matrix, QPoint* origin)
             double fx;
             double fy;
             back.map(x + 0.5, y + 0.5, &fx, &fy);
-            const int sx = static_cast<int>(std::floor(fx));
-            const int sy = static_cast<int>(std::floor(fy));
-            if (image.valid(sx, sy))
-                result.setPixel(x, y, image.pixel(sx, sy));
+            if (fx >= 0 && fx < image.width() && fy >= 0 && fy < image.height())
+                result.setPixel(x, y, image.pixel(static_cast<int>(fx), static_cast<int>(fy)));
         }
     return result;
 }

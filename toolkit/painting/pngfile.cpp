@@ -6,12 +6,16 @@
 #include <algorithm>
 #include <csetjmp>
 #include <cstring>
+#include <new>
 
 namespace zeltk
 {
 
 namespace
 {
+
+// An image has no more, so that its bytes can be counted in an int.
+constexpr int mostBytes = 0x7fffffff;
 
 struct Bytes {
     const unsigned char* next;
@@ -63,7 +67,7 @@ bool readHeader(png_structp png, png_infop info, PngPicture* picture)
     png_set_add_alpha(png, 0xff, PNG_FILLER_AFTER);
     png_set_interlace_handling(png);
     png_read_update_info(png, info);
-    return true;
+    return picture->width <= mostBytes / 4 / picture->height;
 }
 
 bool readRows(png_structp png, png_bytepp rows)
@@ -93,29 +97,40 @@ bool writeAll(png_structp png, png_infop info, const PngPicture& picture, png_by
     return true;
 }
 
-std::vector<png_bytep> rowsOf(std::vector<png_byte>* bytes, int height)
+std::vector<png_bytep> rowsOf(png_bytep bytes, size_t length, int height)
 {
     std::vector<png_bytep> rows;
-    const size_t length = bytes->size() / static_cast<size_t>(height);
     for (int y = 0; y < height; ++y)
-        rows.push_back(bytes->data() + static_cast<size_t>(y) * length);
+        rows.push_back(bytes + static_cast<size_t>(y) * length);
     return rows;
 }
 
-bool readPicture(png_structp png, png_infop info, PngPicture* picture)
+// The four bytes of a pixel lie where the pixel is to be.
+bool readPixels(png_structp png, PngPicture* picture)
 {
-    if (!readHeader(png, info, picture))
-        return false;
-    std::vector<png_byte> bytes(static_cast<size_t>(picture->width) * static_cast<size_t>(picture->height) *
-                                4);
-    std::vector<png_bytep> rows = rowsOf(&bytes, picture->height);
+    const size_t width = static_cast<size_t>(picture->width);
+    picture->pixels.resize(width * static_cast<size_t>(picture->height));
+    png_bytep bytes = reinterpret_cast<png_bytep>(picture->pixels.data());
+    std::vector<png_bytep> rows = rowsOf(bytes, width * sizeof picture->pixels[0], picture->height);
     if (!readRows(png, rows.data()))
         return false;
-    for (size_t i = 0; i < bytes.size(); i += 4)
-        picture->pixels.push_back(static_cast<unsigned>(bytes[i + 3]) << 24 |
-                                  static_cast<unsigned>(bytes[i]) << 16 |
-                                  static_cast<unsigned>(bytes[i + 1]) << 8 | bytes[i + 2]);
+    for (unsigned& pixel : picture->pixels) {
+        png_byte rgba[4];
+        std::memcpy(rgba, &pixel, sizeof rgba);
+        pixel = static_cast<unsigned>(rgba[3]) << 24 | static_cast<unsigned>(rgba[0]) << 16 |
+                static_cast<unsigned>(rgba[1]) << 8 | rgba[2];
+    }
     return true;
+}
+
+// A short file may claim to be a picture that no memory can hold.
+bool readPicture(png_structp png, png_infop info, PngPicture* picture)
+{
+    try {
+        return readHeader(png, info, picture) && readPixels(png, picture);
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
 }
 
 std::vector<png_byte> bytesOf(const PngPicture& picture)
@@ -161,7 +176,8 @@ std::string encodePng(const PngPicture& picture, int level)
     if (level >= 0)
         png_set_compression_level(png, level);
     std::vector<png_byte> bytes = bytesOf(picture);
-    std::vector<png_bytep> rows = rowsOf(&bytes, picture.height);
+    std::vector<png_bytep> rows =
+        rowsOf(bytes.data(), bytes.size() / static_cast<size_t>(picture.height), picture.height);
     const bool good = writeAll(png, info, picture, rows.data());
     png_destroy_write_struct(&png, &info);
     return good ? file : std::string();

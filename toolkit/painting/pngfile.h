@@ -22,7 +22,8 @@ struct PngPicture {
 
 // Whether the bytes begin as a PNG file does.
 bool looksLikePng(const unsigned char* bytes, size_t length);
-// False, and the picture is undefined, if the bytes are no PNG file or a broken one.
+// False, and the picture is undefined, if the bytes are no PNG file, a broken one, or one of more pixels than
+// an image can have.
 bool decodePng(const unsigned char* bytes, size_t length, PngPicture* picture);
 // Empty if libpng refuses. The level is that of zlib, 0 to 9, or -1 for its own choice.
 std::string encodePng(const PngPicture& picture, int level);

@@ -5,6 +5,7 @@
 #include "painting/imagedata.h"
 
 #include <algorithm>
+#include <new>
 
 using zeltk::ImageData;
 
@@ -27,9 +28,8 @@ bool isWithin(const QImage& image, const char* function, int x, int y)
 
 void findRows(ImageData* data)
 {
-    data->rows.clear();
-    for (int y = 0; y < data->height; ++y)
-        data->rows.push_back(reinterpret_cast<uchar*>(&data->pixels[static_cast<size_t>(y * data->width)]));
+    for (size_t y = 0; y < data->rows.size(); ++y)
+        data->rows[y] = reinterpret_cast<uchar*>(&data->pixels[y * static_cast<size_t>(data->width)]);
 }
 
 } // namespace
@@ -117,9 +117,15 @@ bool QImage::create(int width, int height, int depth, int, Endian)
         return false;
     if (width > 0x7fffffff / 4 / height)
         return false;
+    try {
+        d->pixels.resize(static_cast<size_t>(width) * static_cast<size_t>(height));
+        d->rows.resize(static_cast<size_t>(height));
+    } catch (const std::bad_alloc&) {
+        reset();
+        return false;
+    }
     d->width = width;
     d->height = height;
-    d->pixels.resize(static_cast<size_t>(width) * static_cast<size_t>(height));
     findRows(d);
     return true;
 }
