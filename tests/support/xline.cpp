@@ -3,9 +3,11 @@
 #include <X11/Xlib.h>
 #include <X11/Xproto.h>
 #include <X11/extensions/renderproto.h>
+#include <csignal>
 #include <poll.h>
 #include <sys/socket.h>
 #include <sys/un.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -86,6 +88,7 @@ struct Direction {
             arrived.erase(0, static_cast<size_t>(sent));
         return sent > 0 || errno == EAGAIN || errno == EINTR;
     }
+    bool isEmpty() const { return underWay.empty() && arrived.empty(); }
 };
 
 } // namespace
@@ -95,7 +98,8 @@ class XLineEnd
 {
 public:
     XLineEnd(XLine* line, int program, int server)
-        : m_line(line), m_up{program, server, {}, {}, {}}, m_down{server, program, {}, {}, {}}
+        : m_line(line), m_up{program, server, {}, {}, {}}, m_down{server, program, {}, {}, {}},
+          m_left(line->m_mostMessages)
     {
     }
     ~XLineEnd()
@@ -122,11 +126,14 @@ public:
     {
         const Clock::time_point due = Clock::now() + std::chrono::milliseconds(m_line->m_delay);
         const bool open = m_up.receive() && m_down.receive();
-        for (std::string part; !(part = takeRequest()).empty();)
-            m_up.send(part, due);
-        for (std::string part; !(part = takeAnswer()).empty();)
-            m_down.send(part, due);
-        return m_up.deliver() && m_down.deliver() && open;
+        for (std::string part; !m_ended && !(part = takeRequest()).empty();)
+            m_up.send(passing(part), due);
+        for (std::string part; !m_ended && !(part = takeAnswer()).empty();)
+            m_down.send(passing(part), due);
+        const bool delivered = m_up.deliver() && m_down.deliver();
+        if (m_stopped)
+            goOn();
+        return delivered && open && !(m_cut && m_down.isEmpty());
     }
 
 private:
@@ -195,8 +202,10 @@ private:
             take(&m_down.incomplete, 32 + (longer ? 4 * size_t(read<CARD32>(data.data(), 4)) : 0));
         if (answer.empty())
             return answer;
-        if (type == X_Reply)
+        if (type == X_Reply) {
             countAnswer(read<CARD16>(answer.data(), 2));
+            stop(m_line->m_answered.exchange(0));
+        }
         if (type == X_Error)
             disguise(&answer[0]);
         return answer;
@@ -223,8 +232,37 @@ private:
         m_failed.erase(failed);
     }
 
+    std::string passing(const std::string& message)
+    {
+        if (m_left < 0 || m_left-- > 0)
+            return message;
+        m_ended = m_cut = true;
+        return message.substr(0, message.size() / 2);
+    }
+
+    void stop(pid_t program)
+    {
+        if (!program)
+            return;
+        kill(program, SIGSTOP);
+        int status;
+        waitpid(program, &status, WUNTRACED);
+        m_stopped = program;
+        m_ended = true;
+    }
+    // The server says no more, but the program can still write: so a line over TCP ends.
+    void goOn()
+    {
+        shutdown(program(), SHUT_WR);
+        kill(m_stopped, SIGCONT);
+        m_stopped = 0;
+    }
+
     XLine* const m_line;
     Direction m_up, m_down;
+    int m_left; // messages; without limit if negative
+    bool m_ended = false, m_cut = false;
+    pid_t m_stopped = 0;
     bool m_greeted = false, m_greetedBack = false;
     unsigned long m_requests = 0;
     unsigned long m_waited = 0;        // of the requests, those whose answers the program has waited for

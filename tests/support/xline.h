@@ -1,5 +1,5 @@
-// A line between a program and its X server: slow if wanted, it counts what the program waits for, and lets
-// requests fail as they do in a server that has no memory left.
+// A line between a program and its X server: slow if wanted, it counts what the program waits for, lets
+// requests fail as they do in a server that has no memory left, and ends at a chosen moment.
 #ifndef TEST_XLINE_H
 #define TEST_XLINE_H
 
@@ -7,6 +7,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <sys/types.h>
 #include <thread>
 #include <vector>
 
@@ -33,6 +34,13 @@ public:
     void failCreation(int n);
     int creations() const { return m_creations; }
 
+    // From now on each new connection ends after so many messages, requests, answers and the greetings of
+    // both sides together, and half of the next one.
+    void endAfter(int messages) { m_mostMessages = messages; }
+    // The connection ends with the next answer. The program, a child of this one, gets both at once: it is
+    // stopped meanwhile.
+    void endWithAnswerTo(pid_t program) { m_answered = program; }
+
 private:
     friend class XLineEnd;
     XLine(const XLine&);
@@ -49,6 +57,8 @@ private:
     std::vector<std::unique_ptr<XLineEnd>> m_ends;
     std::atomic<unsigned> m_answers{0}, m_answersAtFirst{0}, m_requests{0};
     std::atomic<int> m_creations{0}, m_failing{-1};
+    std::atomic<int> m_mostMessages{-1};
+    std::atomic<pid_t> m_answered{0};
     std::atomic<bool> m_shown{false}, m_end{false};
     std::thread m_thread;
 };

@@ -1,4 +1,5 @@
 // Programs without an X server or without fonts, and programs that lose the server.
+#include "childprogram.h"
 #include "xinput.h"
 
 #include <gtest/gtest.h>
@@ -7,69 +8,19 @@
 
 #include <cstdlib>
 #include <string>
-#include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
 
 namespace
 {
 
-// A program of its own, with the given display, whose output is read here.
-class Program
+class Program : public ChildProgram
 {
 public:
     Program(const char* display, std::vector<std::string> arguments)
+        : ChildProgram(PLAIN_PROGRAM, display, std::move(arguments))
     {
-        int ends[2];
-        if (pipe(ends) != 0)
-            std::abort();
-        arguments.insert(arguments.begin(), PLAIN_PROGRAM);
-        m_pid = fork();
-        if (m_pid == 0) {
-            dup2(ends[1], 1);
-            dup2(ends[1], 2);
-            close(ends[0]);
-            close(ends[1]);
-            if (display)
-                setenv("DISPLAY", display, 1);
-            else
-                unsetenv("DISPLAY");
-            std::vector<char*> argv;
-            for (std::string& argument : arguments)
-                argv.push_back(&argument[0]);
-            argv.push_back(nullptr);
-            execv(argv[0], argv.data());
-            _exit(99);
-        }
-        close(ends[1]);
-        m_output = fdopen(ends[0], "r");
     }
-    ~Program() { fclose(m_output); }
-
-    // Empty at the end.
-    std::string line()
-    {
-        char text[1000];
-        return fgets(text, sizeof text, m_output) ? text : "";
-    }
-    std::string rest()
-    {
-        std::string all;
-        for (std::string next = line(); !next.empty(); next = line())
-            all += next;
-        return all;
-    }
-    // -1 if it did not end by itself.
-    int exitStatus()
-    {
-        int status = 0;
-        waitpid(m_pid, &status, 0);
-        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    }
-
-private:
-    pid_t m_pid;
-    FILE* m_output;
 };
 
 } // namespace

@@ -114,8 +114,9 @@ void watchErrors()
 
 void endIfLost()
 {
-    pollfd server = {connectionFd(), POLLIN, 0};
-    if (poll(&server, 1, 0) > 0 && (server.revents & (POLLHUP | POLLERR)))
+    // Of a line over TCP only the server's half is known to have ended.
+    pollfd server = {connectionFd(), POLLIN | POLLRDHUP, 0};
+    if (poll(&server, 1, 0) > 0 && (server.revents & (POLLHUP | POLLRDHUP | POLLERR)))
         reportLoss(nullptr);
 }
 
