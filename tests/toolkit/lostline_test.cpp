@@ -40,3 +40,25 @@ TEST(LostWithAnAnswer, IsToldWhenAllIsDone)
 {
     expectEndWith("sync", "nothing");
 }
+
+// Once for every message, from the greetings to the last one of a program that shows texts: with half of it.
+TEST(LostAnywhere, IsToldOnce)
+{
+    XLine line(0);
+    int messages = 0;
+    for (bool lost = true; lost; ++messages) {
+        line.endAfter(messages);
+        ChildProgram program(PLAIN_PROGRAM, line.name().c_str(), {"--texts"});
+        std::string said = program.rest();
+        said = said.substr(0, said.find("label measured")); // its own last words
+        const int status = program.exitStatus();
+        lost = status != 0;
+        if (messages < 2)
+            EXPECT_EQ("plain: cannot connect to the X server " + line.name() + "\n", said);
+        else if (lost)
+            EXPECT_EQ(lossOf(line), said) << messages;
+        if (lost)
+            EXPECT_EQ(1, status) << messages;
+    }
+    EXPECT_GT(messages, 50);
+}

@@ -59,10 +59,10 @@ bool openConnection(const std::string& name)
 {
     if (server)
         return true;
+    watchErrors(); // before, since the connection may be lost while it is made
     server = XOpenDisplay(name.empty() ? nullptr : name.c_str());
     if (!server)
         return false;
-    watchErrors();
     learnAtoms();
     return true;
 }

@@ -79,18 +79,20 @@ int reportError(Display* server, XErrorEvent* error)
 }
 
 // Nothing that needs the server may run any more, so the program ends at once.
-int reportLoss(Display*)
+int reportLoss(Display* lost)
 {
-    std::fprintf(stderr, "The connection to the X server %s is lost.\n", displayName().c_str());
+    std::fprintf(stderr, "The connection to the X server %s is lost.\n", DisplayString(lost));
     std::fflush(nullptr);
     _exit(1);
 }
 
-// Writing to a lost connection brings this signal first. Other broken pipes end the program as ever.
+// Writing to a lost connection brings this signal first. Other broken pipes end the program as ever. A
+// connection that is only being made cannot be asked: Xlib tells of its loss.
 void onBrokenPipe(int)
 {
-    if (connected())
-        endIfLost();
+    if (!connected())
+        return;
+    endIfLost();
     std::signal(SIGPIPE, SIG_DFL);
     std::raise(SIGPIPE);
 }
@@ -117,7 +119,7 @@ void endIfLost()
     // Of a line over TCP only the server's half is known to have ended.
     pollfd server = {connectionFd(), POLLIN | POLLRDHUP, 0};
     if (poll(&server, 1, 0) > 0 && (server.revents & (POLLHUP | POLLRDHUP | POLLERR)))
-        reportLoss(nullptr);
+        reportLoss(display());
 }
 
 void setErrorHandler(ErrorHandler h)
