@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 #include <qapplication.h>
+#include <qbitmap.h>
+#include <qpainter.h>
 
 #include <algorithm>
 #include <cstdlib>
@@ -67,6 +69,28 @@ long lacks()
 }
 
 } // namespace
+
+// The first of the tests, since the store holds no context for bitmaps yet.
+TEST(ServerErrors, AFullStoreOfContextsThatCouldNotBeMadeTakesABitmapsContext)
+{
+    QPixmap pixmap(20, 20);
+    QApplication::syncX();
+    for (int width = 1; width <= 30; ++width) {
+        server.line.failCreation(0);
+        QPainter painter(&pixmap);
+        painter.setPen(QPen(Qt::red, static_cast<uint>(width)));
+        painter.drawLine(0, 0, 9, 9);
+        painter.end();
+        QApplication::syncX();
+        EXPECT_EQ(1, lacks()) << width << takeMessages();
+        testMessages().clear();
+    }
+    server.line.failCreation(-1);
+    QBitmap bitmap(20, 20);
+    QPainter(&bitmap).drawLine(0, 0, 9, 9);
+    QApplication::syncX();
+    EXPECT_EQ("", takeMessages());
+}
 
 TEST(ServerErrors, EveryCreationMayFailOnceAndIsTold)
 {

@@ -46,15 +46,22 @@ unsigned long fill(const GcKey& key, XGCValues* values)
     return key.fill == FillWithColor ? fields : fields | GCStipple;
 }
 
+void empty(GcSlot* slot)
+{
+    if (slot->lost)
+        XFree(slot->gc); // XFreeGC() would tell the server, which does not know it
+    else
+        XFreeGC(display(), slot->gc);
+    slot->gc = nullptr;
+    slot->lost = false;
+}
+
 void set(GcSlot* slot, const GcKey& key)
 {
     XGCValues values;
     const unsigned long mask = fill(key, &values);
-    if (slot->lost) {
-        XFree(slot->gc); // XFreeGC() would tell the server, which does not know it
-        slot->gc = nullptr;
-        slot->lost = false;
-    }
+    if (slot->lost)
+        empty(slot);
     const bool wasClipped = slot->gc && slot->key.clip;
     if (slot->gc) {
         XChangeGC(display(), slot->gc, mask, &values);
@@ -115,8 +122,7 @@ GcSlot* gcFor(const GcKey& key)
         oldest = &slots.back();
     } else if (!oldest) { // none has the right depth
         oldest = &slots.back();
-        XFreeGC(display(), oldest->gc);
-        oldest->gc = nullptr;
+        empty(oldest);
     }
     set(oldest, key);
     oldest->lastUse = ++uses;
