@@ -68,28 +68,37 @@ long lacks()
     });
 }
 
+// One drawing, of which the n-th creation fails; what is said of it.
+std::string drawLine(QPaintDevice* device, const QPen& pen, int failing)
+{
+    server.line.failCreation(failing);
+    QPainter painter(device);
+    painter.setPen(pen);
+    painter.drawLine(0, 0, 9, 9);
+    painter.end();
+    QApplication::syncX();
+    const long count = lacks();
+    return std::to_string(count) + " lacks\n" + takeMessages();
+}
+
 } // namespace
 
 // The first of the tests, since the store holds no context for bitmaps yet.
-TEST(ServerErrors, AFullStoreOfContextsThatCouldNotBeMadeTakesABitmapsContext)
+TEST(ServerErrors, ContextsThatCouldNotBeMadeGiveWayToABitmapsContext)
 {
     QPixmap pixmap(20, 20);
-    QApplication::syncX();
-    for (int width = 1; width <= 30; ++width) {
-        server.line.failCreation(0);
-        QPainter painter(&pixmap);
-        painter.setPen(QPen(Qt::red, static_cast<uint>(width)));
-        painter.drawLine(0, 0, 9, 9);
-        painter.end();
-        QApplication::syncX();
-        EXPECT_EQ(1, lacks()) << width << takeMessages();
-        testMessages().clear();
-    }
-    server.line.failCreation(-1);
     QBitmap bitmap(20, 20);
-    QPainter(&bitmap).drawLine(0, 0, 9, 9);
     QApplication::syncX();
-    EXPECT_EQ("", takeMessages());
+    const int storeSize = 24;
+    for (int width = 1; width <= storeSize; ++width)
+        EXPECT_EQ("1 lacks", drawLine(&pixmap, QPen(Qt::red, static_cast<uint>(width)), 0).substr(0, 7));
+    for (int failing = 0; failing < 2; ++failing) {
+        const std::string said = drawLine(&bitmap, Qt::color1, failing);
+        EXPECT_EQ("1 lacks", said.substr(0, 7));
+        const char* const freeing = "Major opcode:  60\n";
+        EXPECT_EQ(std::string::npos, said.find(freeing)) << said;
+    }
+    EXPECT_EQ("0 lacks\n", drawLine(&bitmap, Qt::color1, -1));
 }
 
 TEST(ServerErrors, EveryCreationMayFailOnceAndIsTold)

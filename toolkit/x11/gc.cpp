@@ -18,13 +18,6 @@ constexpr unsigned long fields = GCFunction | GCForeground | GCBackground | GCLi
                                  GCCapStyle | GCJoinStyle | GCFillStyle | GCTileStipXOrigin |
                                  GCTileStipYOrigin | GCSubwindowMode | GCGraphicsExposures;
 
-// Contexts belong to a depth; these two drawables are made only to name it.
-XId exampleDrawable(bool bitmap)
-{
-    static const XId onePixel = XCreatePixmap(display(), rootWindow(), 1, 1, 1);
-    return bitmap ? onePixel : rootWindow();
-}
-
 unsigned long fill(const GcKey& key, XGCValues* values)
 {
     values->function = key.function;
@@ -46,6 +39,18 @@ unsigned long fill(const GcKey& key, XGCValues* values)
     return key.fill == FillWithColor ? fields : fields | GCStipple;
 }
 
+// A context belongs to a depth, which a drawable names.
+_XGC* makeContext(bool forBitmaps, unsigned long mask, XGCValues* values)
+{
+    endIfLost();
+    if (!forBitmaps)
+        return XCreateGC(display(), rootWindow(), mask, values);
+    const Pixmap example = XCreatePixmap(display(), rootWindow(), 1, 1, 1);
+    _XGC* const made = XCreateGC(display(), example, mask, values);
+    XFreePixmap(display(), example);
+    return made;
+}
+
 void empty(GcSlot* slot)
 {
     if (slot->lost)
@@ -63,12 +68,10 @@ void set(GcSlot* slot, const GcKey& key)
     if (slot->lost)
         empty(slot);
     const bool wasClipped = slot->gc && slot->key.clip;
-    if (slot->gc) {
+    if (slot->gc)
         XChangeGC(display(), slot->gc, mask, &values);
-    } else {
-        endIfLost();
-        slot->gc = XCreateGC(display(), exampleDrawable(key.bitmap), mask, &values);
-    }
+    else
+        slot->gc = makeContext(key.bitmap, mask, &values);
     if (!key.dashes.empty())
         XSetDashes(display(), slot->gc, 0, key.dashes.data(), static_cast<int>(key.dashes.size()));
     if (key.clip) {
