@@ -44,6 +44,7 @@ struct List {
     const char* edit;
     bool editable;
     const char* widest;
+    const char** entries;
     const char* slot;
     int editLine;
 };
@@ -51,10 +52,10 @@ struct List {
 enum { listCount = 3 };
 
 const List lists[listCount] = {
-    {"FamilyLabel", "Family", 114, "FamilyEdit", true, "New century schoolbook", SLOT(familyActivated(int)),
-     119},
-    {"SizeLabel", "Size", 128, "SizeEdit", true, "1000", SLOT(sizeActivated(int)), 133},
-    {"WeightLabel", "Weight", 140, "WeightEdit", false, "DemiBold", SLOT(weightActivated(int)), 145},
+    {"FamilyLabel", "Family", 114, "FamilyEdit", true, "New century schoolbook", Families,
+     SLOT(familyActivated(int)), 119},
+    {"SizeLabel", "Size", 128, "SizeEdit", true, "1000", Sizes, SLOT(sizeActivated(int)), 133},
+    {"WeightLabel", "Weight", 140, "WeightEdit", false, "DemiBold", Weights, SLOT(weightActivated(int)), 145},
 };
 
 // A check box. The line is that of its failure report.
@@ -146,13 +147,10 @@ void ZelFontDlg::addLists()
         edit = new QComboBox(lists[i].editable, this, lists[i].edit);
         checkCreation(edit, ZELKIT_COMBO_BOX_FAILED, sourceFile, lists[i].editLine);
         edit->setGeometry(x, dialogMargin - 8, metrics.width(lists[i].widest) + 32, metrics.height() + 8);
+        edit->insertStrList(lists[i].entries);
         connect(edit, SIGNAL(activated(int)), lists[i].slot);
         x += edit->width() + dialogGap;
     }
-    for (const char** family = Families; *family; ++family)
-        familyEdit->insertItem(*family);
-    sizeEdit->insertStrList(Sizes);
-    weightEdit->insertStrList(Weights);
 }
 
 // One column of check boxes, which keep the size that the toolkit gives them.
@@ -279,7 +277,9 @@ void ZelFontDlg::sizeActivated(int index)
 void ZelFontDlg::weightActivated(int index)
 {
     QFont font = panel->font();
-    font.setWeight(namedWeight(weightEdit->text(index), font.weight()));
+    const int weight = namedWeight(weightEdit->text(index), 0);
+    if (weight)
+        font.setWeight(weight);
     panel->setFont(font);
 }
 

@@ -380,9 +380,13 @@ TEST_F(FontParameters, SlotsReadTheStateOfTheBoxes)
     EXPECT_EQ(sample(), "Courier 14 50 i--");
     dialog.strikeoutClicked();
     EXPECT_EQ(sample(), "Courier 14 50 i-s");
-    italic->setNoChange();
+    dialog.setFontItalic(false);
     dialog.italicClicked();
-    EXPECT_TRUE(panel->font().italic() == italic->isChecked());
+    EXPECT_EQ(sample(), "Courier 14 50 --s");
+    italic->setNoChange(); // anything but off counts
+    dialog.italicClicked();
+    EXPECT_EQ(sample(), "Courier 14 50 i-s");
+    EXPECT_TRUE(dialog.beFontItalic());
 }
 
 TEST_F(FontParameters, AnUnknownWeightNameChangesNothing)
@@ -392,6 +396,40 @@ TEST_F(FontParameters, AnUnknownWeightNameChangesNothing)
     EXPECT_EQ(sample(), "Courier 14 50 ---") << "case counts";
     weight->setCurrentItem(3);
     EXPECT_EQ(dialog.getFontWeight(), 25);
+    for (const int none : {-1, 5, INT_MIN, INT_MAX}) {
+        dialog.weightActivated(none);
+        EXPECT_EQ(sample(), "Courier 14 50 ---") << none;
+    }
+}
+
+TEST_F(FontParameters, AnUnknownWeightNameLeavesAnOddWeightAlone)
+{
+    dialog.setFontParameters("Courier", 14, 200, false, false, false);
+    const int odd = panel->font().weight();
+    testMessages().clear();
+    dialog.weightActivated(-1);
+    EXPECT_EQ(panel->font().weight(), odd);
+    EXPECT_TRUE(testMessages().empty());
+}
+
+TEST_F(FontParameters, OnlyWhatWasChosenKeepsTheSampleFromFollowingTheDialog)
+{
+    ZelFontDlg fresh;
+    const QLabel* const label = static_cast<QLabel*>(childNamed(&fresh, "Panel"));
+    fresh.sizeActivated(3);
+    fresh.weightActivated(-1);
+    QFont bold = fresh.font();
+    bold.setPointSize(30);
+    bold.setWeight(QFont::Bold);
+    bold.setItalic(true);
+    fresh.setFont(bold);
+    EXPECT_EQ(label->font().pointSize(), 14);
+    EXPECT_EQ(label->font().weight(), 75);
+    EXPECT_TRUE(label->font().italic());
+    fresh.weightActivated(1);
+    bold.setWeight(QFont::Black);
+    fresh.setFont(bold);
+    EXPECT_EQ(label->font().weight(), 50);
 }
 
 TEST_F(FontParameters, TwoDialogsDoNotDisturbEachOther)

@@ -6,11 +6,16 @@
 #include "failedcreation.h"
 
 #include <gtest/gtest.h>
+#include <qapplication.h>
+#include <qcombobox.h>
+#include <qobjectlist.h>
+#include <qwidgetlist.h>
 
 #include <cstdarg>
 #include <cstdio>
 #include <map>
 #include <string>
+#include <vector>
 
 namespace
 {
@@ -18,11 +23,29 @@ namespace
 // Ends the creation of a dialog instead of the program.
 struct Report {
     std::string text;
+    std::vector<int> entries; // of the combo boxes that the dialog had by then
 };
 
-// What is reported when that creation fails; "" if none fails.
+// The combo boxes of the dialog with that name, as it is by now, in the order in which they were created.
+std::vector<int> entriesOf(const char* name)
+{
+    std::vector<int> entries;
+    QWidgetList* const windows = QApplication::topLevelWidgets();
+    for (QWidgetListIt window(*windows); window.current(); ++window) {
+        if (QString(window.current()->name()) != name)
+            continue;
+        QObjectList* const boxes = window.current()->queryList("QComboBox");
+        for (QObjectListIt box(*boxes); box.current(); ++box)
+            entries.push_back(static_cast<QComboBox*>(box.current())->count());
+        delete boxes;
+    }
+    delete windows;
+    return entries;
+}
+
+// What is reported when that creation fails; nothing if none fails.
 template <class Dialog>
-std::string reportOf(int failing)
+Report reportOf(int failing)
 {
     QWidget* const none = nullptr;
     Dialog first(none, "first"); // sets up what all share
@@ -30,9 +53,9 @@ std::string reportOf(int failing)
     try {
         Dialog second(none, "second");
     } catch (const Report& report) {
-        return report.text;
+        return report;
     }
-    return "";
+    return Report();
 }
 
 // How often each kind is reported, by a dialog of that file, when each of its creations fails in turn.
@@ -41,7 +64,7 @@ std::map<std::string, int> kindsOf(const std::string& file)
 {
     std::map<std::string, int> kinds;
     for (int i = 0;; ++i) {
-        const std::string report = reportOf<Dialog>(i);
+        const std::string report = reportOf<Dialog>(i).text;
         if (report.empty())
             return kinds;
         char kind[32] = "";
@@ -67,7 +90,7 @@ extern "C" void murmel_fatal(const char* format, ...)
     va_start(arguments, format);
     std::vsnprintf(text, sizeof text, format, arguments);
     va_end(arguments);
-    throw Report{text};
+    throw Report{text, entriesOf("second")};
 }
 
 TEST(ReportedCreation, EveryChildOfTheColourDialog)
@@ -92,4 +115,15 @@ TEST(ReportedCreation, EveryChildOfTheFontDialog)
                                                          {"combo box creation failed", 3},
                                                          {"check box creation failed", 3},
                                                          {"label creation failed", 4}}));
+}
+
+TEST(ReportedCreation, EachListIsFullBeforeTheNextPartIsMade)
+{
+    typedef std::vector<int> Entries;
+    EXPECT_EQ(reportOf<ZelFontDlg>(3).entries, Entries({}));
+    EXPECT_EQ(reportOf<ZelFontDlg>(4).entries, Entries({15}));
+    EXPECT_EQ(reportOf<ZelFontDlg>(5).entries, Entries({15}));
+    EXPECT_EQ(reportOf<ZelFontDlg>(6).entries, Entries({15, 10}));
+    EXPECT_EQ(reportOf<ZelFontDlg>(7).entries, Entries({15, 10}));
+    EXPECT_EQ(reportOf<ZelFontDlg>(8).entries, Entries({15, 10, 5}));
 }
