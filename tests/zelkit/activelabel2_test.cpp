@@ -111,6 +111,16 @@ TEST_F(ActiveLabel2, ANewTextErasesTheOldOne)
     EXPECT_EQ(Pixels::now(&label).count(0x0000dc), 0);
 }
 
+TEST_F(ActiveLabel2, TheOutlineHasTheColoursOfADisabledLabel)
+{
+    QPalette palette = label.palette();
+    palette.setColor(QPalette::Disabled, QColorGroup::Dark, QColor(4, 5, 6));
+    label.setPalette(palette);
+    label.setEnabled(false);
+    label.repaint(true);
+    EXPECT_EQ(Pixels::now(&label).at(0, 0), 0x040506U);
+}
+
 TEST_F(ActiveLabel2, WithoutATextItIsAnOutline)
 {
     ZelActiveLabel2 plain(&window, "plain");
@@ -197,6 +207,19 @@ TEST_F(ActiveLabel2, APressIsToldAtOnceAndAClickAtTheRelease)
     release(&label);
     EXPECT_EQ(recorder.take(), "clicked");
     EXPECT_EQ(paints.take(), 0);
+}
+
+TEST_F(ActiveLabel2, ItIsPressedWhenThatIsToldAndNoLongerAtTheClick)
+{
+    int told = 0;
+    recorder.whenever = [&] {
+        if (++told <= 2)
+            release(&label);
+    };
+    press(&label);
+    EXPECT_EQ(recorder.take(), "pressed clicked");
+    release(&label);
+    EXPECT_EQ(recorder.take(), "");
 }
 
 TEST_F(ActiveLabel2, OnlyTheLeftButtonPressesAndOnlyInsideIsAClick)

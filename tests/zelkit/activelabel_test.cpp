@@ -284,6 +284,18 @@ TEST_F(ActiveLabel, AReleaseWithoutAPressIsNothing)
     EXPECT_EQ(counter.takePaints(), 0);
 }
 
+TEST_F(ActiveLabel, ThePressIsOverWhenItIsTold)
+{
+    int told = 0;
+    recorder.whenever = [&] {
+        if (++told == 1)
+            release(label);
+    };
+    press(label);
+    release(label);
+    EXPECT_EQ(told, 1);
+}
+
 TEST_F(ActiveLabel, OnlyReleasesInsideTheEdgesClick)
 {
     const struct {
@@ -341,6 +353,23 @@ TEST_F(ActiveLabel, EveryChangeIsPaintedOnceAndAtOnce)
     EXPECT_EQ(counter.takePaints(), 0);
 }
 
+TEST_F(ActiveLabel, TheSameOnceMoreIsPaintedOnceMore)
+{
+    EventCounter counter(label);
+    for (int i = 0; i < 2; ++i) {
+        label->setText("same");
+        label->setAlignment(Qt::AlignRight);
+        label->setTextTop(2);
+        EXPECT_EQ(counter.takePaints(), 3);
+    }
+    enter(label);
+    enter(label);
+    EXPECT_EQ(counter.takePaints(), 2);
+    leave(label);
+    leave(label);
+    EXPECT_EQ(counter.takePaints(), 2);
+}
+
 TEST_F(ActiveLabel, EnteringTwiceAndLeavingTwiceIsHarmless)
 {
     const Pixels atRest = Pixels::of(label);
@@ -366,8 +395,24 @@ TEST_F(ActiveLabel, KeepsItsMouseEventsFromTheParent)
     EventCounter counter(&window);
     EXPECT_TRUE(sendMouse(label, QEvent::MouseButtonPress, 5, 5));
     EXPECT_TRUE(sendMouse(label, QEvent::MouseButtonRelease, 5, 5));
+    EXPECT_TRUE(sendMouse(label, QEvent::MouseButtonRelease, 5, 5)) << "without a press";
     EXPECT_TRUE(sendMouse(label, QEvent::MouseButtonPress, 5, 5, Qt::RightButton));
+    EXPECT_TRUE(sendMouse(label, QEvent::MouseButtonRelease, 5, 5, Qt::RightButton));
     EXPECT_EQ(counter.presses, 0);
+}
+
+TEST_F(ActiveLabel, ThePanelHasTheColoursOfADisabledLabel)
+{
+    enter(label);
+    QPalette palette = label->palette();
+    palette.setColor(QPalette::Disabled, QColorGroup::Light, QColor(1, 2, 3));
+    palette.setColor(QPalette::Disabled, QColorGroup::Dark, QColor(4, 5, 6));
+    label->setPalette(palette);
+    label->setEnabled(false);
+    label->repaint(true);
+    const Pixels pixels = Pixels::now(label);
+    EXPECT_EQ(pixels.at(0, 0), 0x010203U);
+    EXPECT_EQ(pixels.at(79, 39), 0x040506U);
 }
 
 TEST_F(ActiveLabel, DisabledItDoesNotClick)

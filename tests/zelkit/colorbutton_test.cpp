@@ -78,6 +78,17 @@ TEST_F(ColorButton, ThePointerAndNewColoursPaintOnceAndAtOnce)
     EXPECT_EQ(paints.take(), "");
 }
 
+TEST_F(ColorButton, ThePanelHasTheColoursOfADisabledButton)
+{
+    QPalette palette = button.palette();
+    palette.setColor(QPalette::Disabled, QColorGroup::Dark, QColor(4, 5, 6));
+    button.setPalette(palette);
+    button.setEnabled(false);
+    button.repaint(true);
+    EXPECT_EQ(Pixels::now(&button).at(0, 0), 0x040506U);
+    EXPECT_EQ(Pixels::now(&button).at(15, 10), 0xc80000U);
+}
+
 TEST_F(ColorButton, OnlyTheHoverBitShows)
 {
     button.setPaletteForegroundColor(Qt::yellow); // the outlines stay black
@@ -105,6 +116,18 @@ TEST_F(ColorButton, OnlyReleasesInsideTheEdgesClick)
         release(&button);
         EXPECT_EQ(recorder.take(), "") << "one press, one release";
     }
+}
+
+TEST_F(ColorButton, ThePressIsOverWhenItIsTold)
+{
+    int told = 0;
+    recorder.whenever = [&] {
+        if (++told == 1)
+            release(&button);
+    };
+    press(&button);
+    release(&button);
+    EXPECT_EQ(told, 1);
 }
 
 TEST_F(ColorButton, AnyButtonsReleaseEndsThePress)
