@@ -1,4 +1,6 @@
-#include "allclasses.h"
+// The classes of the library, each with a way to make one.
+#ifndef TEST_ALLCLASSES_H
+#define TEST_ALLCLASSES_H
 
 #include <colordlg.h>
 #include <colorgroupdlg.h>
@@ -16,7 +18,14 @@
 #include <zelpushbutton.h>
 #include <zelpushbutton2.h>
 
-const std::vector<NamedClass>& allClasses()
+#include <vector>
+
+struct NamedClass {
+    const char* name;
+    QWidget* (*make)(QWidget* parent);
+};
+
+inline const std::vector<NamedClass>& allClasses()
 {
     static const std::vector<NamedClass> classes = {
         {"ZelActiveLabel", [](QWidget* p) -> QWidget* { return new ZelActiveLabel("text", p, "w"); }},
@@ -37,3 +46,5 @@ const std::vector<NamedClass>& allClasses()
     };
     return classes;
 }
+
+#endif
