@@ -138,3 +138,36 @@ TEST_F(ControlDeletion, OfAComboBoxStopsTheEventOfItsField)
         EXPECT_TRUE(static_cast<QObject*>(combo)->eventFilter(combo->lineEdit(), event)) << event->type();
     }
 }
+
+TEST_F(ControlDeletion, OfAComboBoxThatCompletesStopsTheKeyOfItsField)
+{
+    QComboBox* combo = new Perishable<QComboBox>(true, &window);
+    combo->insertItem("Apple");
+    combo->clearEdit();
+    combo->setAutoCompletion(true);
+    sendKey(combo->lineEdit(), Qt::Key_A, 'a', 0, "a");
+    ASSERT_EQ(combo->currentText(), "a");
+    SignalRecorder recorder;
+    recorder.watch(combo, SIGNAL(textChanged(const QString&)));
+    recorder.whenever = [combo] { delete combo; };
+    QKeyEvent up(QEvent::KeyRelease, Qt::Key_A, 'a', 0, "a");
+    EXPECT_TRUE(static_cast<QObject*>(combo)->eventFilter(combo->lineEdit(), &up));
+    EXPECT_EQ(recorder.take(), "textChanged(Apple)");
+}
+
+TEST_F(ControlDeletion, OfAComboBoxStopsTheEndOfItsList)
+{
+    QComboBox* combo = new Perishable<QComboBox>(false, &window);
+    for (const char* text : {"One", "Two"})
+        combo->insertItem(text);
+    showAndActivate(&window);
+    combo->show();
+    combo->popup();
+    combo->listBox()->setCurrentItem(1);
+    SignalRecorder recorder;
+    recorder.watch(combo, SIGNAL(highlighted(int)));
+    recorder.whenever = [combo] { delete combo; };
+    QHideEvent hidden;
+    EXPECT_TRUE(static_cast<QObject*>(combo)->eventFilter(combo->listBox(), &hidden));
+    EXPECT_EQ(recorder.take(), "highlighted(0)");
+}
