@@ -36,6 +36,14 @@ const Channel channels[channelCount] = {
     {"BLabel", "Blue", 97, "BEdit", SLOT(bEditChanged(int)), 116, "BScroll", SLOT(bScrollChanged(int)), 136},
 };
 
+// Writes a number into a field. False if who heard of it has deleted the field, and the dialog with it.
+bool writeNumber(ZelLineEditInt* field, int number)
+{
+    const QGuardedPtr<QWidget> alive(field);
+    field->setText(QString::number(number));
+    return alive;
+}
+
 } // namespace
 
 ZelColorDlg::ZelColorDlg(const QColor& color, QWidget* parent, const char* name)
@@ -171,7 +179,8 @@ void ZelColorDlg::bEditChanged(int value)
 
 void ZelColorDlg::rScrollChanged(int value)
 {
-    rEdit->setText(QString::number(value));
+    if (!writeNumber(rEdit, value))
+        return;
     QColor color = getColor();
     color.setRgb(value, color.green(), color.blue());
     panel->setPaletteBackgroundColor(color);
@@ -179,7 +188,8 @@ void ZelColorDlg::rScrollChanged(int value)
 
 void ZelColorDlg::gScrollChanged(int value)
 {
-    gEdit->setText(QString::number(value));
+    if (!writeNumber(gEdit, value))
+        return;
     QColor color = getColor();
     color.setRgb(color.red(), value, color.blue());
     panel->setPaletteBackgroundColor(color);
@@ -187,7 +197,8 @@ void ZelColorDlg::gScrollChanged(int value)
 
 void ZelColorDlg::bScrollChanged(int value)
 {
-    bEdit->setText(QString::number(value));
+    if (!writeNumber(bEdit, value))
+        return;
     QColor color = getColor();
     color.setRgb(color.red(), color.green(), value);
     panel->setPaletteBackgroundColor(color);

@@ -2,9 +2,12 @@
 #include <colordlg.h>
 
 #include "dialogs.h"
+#include "perishable.h"
 #include "pixels.h"
+#include "sentevents.h"
 #include "signalrecorder.h"
 
+#include <qguardedptr.h>
 #include <qlabel.h>
 #include <qpushbutton.h>
 #include <qscrollbar.h>
@@ -404,6 +407,34 @@ TEST_F(ColorDlg, MayBeDeletedWhileItIsOpen)
     EXPECT_EQ(chooser->exec(), QDialog::Rejected);
     settle();
     EXPECT_EQ(QApplication::activeModalWidget(), static_cast<QWidget*>(nullptr));
+}
+
+TEST_F(ColorDlg, MayBeDeletedByWhoHearsOfAChange)
+{
+    const struct {
+        const char* part;
+        const char* signal;
+    } changes[] = {{"Edit", SIGNAL(textChanged(const QString&))},
+                   {"Edit", SIGNAL(valueChanged(int))},
+                   {"Scroll", SIGNAL(valueChanged(int))}};
+    for (const auto& change : changes)
+        for (const std::string channel : {"R", "G", "B"})
+            for (const bool typed : {true, false}) {
+                if (!typed && change.signal == changes[1].signal)
+                    continue;
+                QGuardedPtr<QDialog> chooser = new Perishable<ZelColorDlg>(QColor(10, 20, 30));
+                QWidget* const edit = childNamed(chooser, (channel + "Edit").c_str());
+                QWidget* const bar = childNamed(chooser, (channel + "Scroll").c_str());
+                SignalRecorder recorder;
+                recorder.watch(childNamed(chooser, (channel + change.part).c_str()), change.signal);
+                recorder.whenever = [&] { delete static_cast<QDialog*>(chooser); };
+                if (typed)
+                    sendKey(edit, Qt::Key_Home), sendKey(edit, Qt::Key_1, '1', 0, "1");
+                else
+                    static_cast<QScrollBar*>(bar)->setValue(99);
+                EXPECT_TRUE(chooser.isNull()) << channel << change.part << " " << typed;
+                Graveyard::clear();
+            }
 }
 
 TEST_F(ColorDlg, MayBeDeletedWhileTheStandardDialogIsOpen)
