@@ -15,7 +15,7 @@
  *
  * The text may stand in any of four orientations, so the label also serves as a vertical tab or a caption
  * along the side of something else. It is drawn in the widget's font and keeps two pixels free at every edge
- * of the label.
+ * of the label. Presses and releases do not go on to the parent.
  */
 class ZELKIT_EXPORT ZelActiveLabel : public QWidget
 {

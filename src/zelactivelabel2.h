@@ -10,7 +10,8 @@
  * \brief A framed text that works as a flat button.
  *
  * A sunken outline surrounds the centred text in every state. The text is blue (0, 0, 220), and white while
- * the pointer is over the label. Pressing and letting go do not change the look.
+ * the pointer is over the label. Pressing and letting go do not change the look, and do not go on to the
+ * parent.
  */
 class ZELKIT_EXPORT ZelActiveLabel2 : public QWidget
 {

@@ -10,7 +10,7 @@
  * \brief A button that shows a colour.
  *
  * At rest it is a sunken panel filled with the colour; while the pointer is over it, an outlined swatch on a
- * white field. Pressing and letting go do not change the look.
+ * white field. Pressing and letting go do not change the look, and do not go on to the parent.
  */
 class ZELKIT_EXPORT ZelColorButton : public QWidget
 {

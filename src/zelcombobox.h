@@ -27,7 +27,8 @@ public:
 signals:
     //! The pointer left the combo box.
     void leave();
-    //! The keyboard focus left the combo box for another place than its own list.
+    //! The keyboard focus left the combo box for another place than its own list. Emitted before the combo
+    //! box handles it.
     void focusOut();
     //! Escape was pressed. Emitted after the combo box has handled the key.
     void escapePressed();

@@ -23,7 +23,7 @@ public:
     //! Destroys the edge.
     ~ZelEdge();
 
-    //! Copies both colours and shows the normal one at once.
+    //! Copies both colours and sets the normal one at once, also while a button is held.
     void setColor(const QColor& normal, const QColor& pressed);
 
 signals:
@@ -31,7 +31,7 @@ signals:
     void mousePress(QMouseEvent* event);
     //! Any button was let go; the edge has its normal colour already.
     void mouseRelease(QMouseEvent* event);
-    //! The pointer moved while a button was held.
+    //! The pointer moved while a button was held, or at any time with mouse tracking.
     void mouseMove(QMouseEvent* event);
 
 protected:

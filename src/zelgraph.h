@@ -41,8 +41,9 @@ public:
      * one less; if the minimum is above the maximum, the maximum becomes one more. \a hGridCount is the
      * number of divisions in height, \a vGridStep the distance of the upright grid lines in pixels, above 0;
      * -1 means no lines. With \a bars, samples are bars from the bottom. With \a rate, their change per
-     * second is shown. With \a autoRange, the range begins at 0 to 2, follows the samples and only grows; the
-     * first two arguments do not count then.
+     * second is shown: 0 for the first one, half the change for one in the same second as the one before.
+     * With \a autoRange, the range begins at 0 to 2, follows the samples and only grows; the first sample of
+     * all puts it from 1 below to 1 above. The first two arguments do not count then.
      *
      * Stored samples become \a minY; how many there are stays.
      */

@@ -10,7 +10,8 @@
  * \brief A label that reports its mouse events and works as a toggle.
  *
  * An active label turns bold and takes the hover colour while the pointer is over it, and draws its text
- * itself, centred. A passive one looks as a QLabel always does. Both emit all signals and toggle.
+ * itself, centred. A passive one looks as a QLabel always does. Both emit all signals and toggle, and their
+ * mouse events go on to the parent afterwards.
  */
 class ZELKIT_EXPORT ZelLabel : public QLabel
 {
@@ -46,7 +47,8 @@ signals:
     //! The pointer moved while a button was held, or at any time with mouse tracking.
     void mouseMove(QMouseEvent* event);
 
-    //! The left button was released inside \a label, which is the sender, or setOn() was called.
+    //! The left button was released inside \a label, which is the sender, or setOn() was called. The toggle
+    //! has its new state already.
     void clicked(ZelLabel* label);
 
 protected:
