@@ -163,6 +163,25 @@ TEST_P(ComboBox, LosingTheFocusIsTold)
     EXPECT_TRUE(button.hasFocus());
 }
 
+TEST_P(ComboBox, LosingTheFocusIsToldBeforeItIsHandled)
+{
+    focus();
+    PaintLog paints(box.get());
+    std::string painted = "not told";
+    recorder.whenever = [&] { painted = paints.take(); };
+    QFocusEvent event(QEvent::FocusOut);
+    QApplication::sendEvent(box.get(), &event);
+    EXPECT_EQ(painted, "");
+    EXPECT_EQ(paints.take(), "kept");
+    box->listBox() ? box->listBox()->setFocus() : button.setFocus();
+    recorder.whenever = nullptr;
+    recorder.take();
+    paints.take();
+    QApplication::sendEvent(box.get(), &event);
+    EXPECT_EQ(recorder.take(), box->listBox() ? "" : "focusOut");
+    EXPECT_EQ(paints.take(), "kept") << "handled also when it is not told";
+}
+
 TEST_P(ComboBox, TheFocusFrameGoesWithTheFocus)
 {
     showAndActivate(&window);

@@ -136,7 +136,11 @@ TEST_F(Label, SetOnTellsEveryTime)
     label->setOn(true);
     EXPECT_TRUE(label->isOn());
     EXPECT_EQ(recorder.take(), "clicked clicked");
-    EXPECT_EQ(paints.take(), 0);
+    release(label);
+    EXPECT_FALSE(label->isOn());
+    EXPECT_EQ(recorder.take(), "mouseRelease clicked");
+    settle();
+    EXPECT_EQ(paints.take(), 0) << "the toggle has no look";
 }
 
 TEST_F(Label, AnActiveLabelTurnsBoldAndColouredUnderThePointer)

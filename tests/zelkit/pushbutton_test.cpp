@@ -114,6 +114,20 @@ TEST(PushButton2, EscapeIsToldAndGoesOn)
     EXPECT_TRUE(ZelPushButton2(&window, "other").text().isEmpty());
 }
 
+TEST(PushButton2, EscapeIsToldWithEveryModifierAndWhenItRepeats)
+{
+    QWidget window(0, "window");
+    ZelPushButton2 button("Stop", &window, "button");
+    SignalRecorder recorder;
+    recorder.watch(&button, SIGNAL(escapePressed()));
+    for (const int state : {Qt::ShiftButton, Qt::ControlButton, Qt::AltButton, Qt::LeftButton})
+        EXPECT_FALSE(sendKey(&button, Qt::Key_Escape, 27, state));
+    EXPECT_EQ(recorder.take(), "escapePressed escapePressed escapePressed escapePressed");
+    QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Escape, 27, 0, QString::null, true);
+    QApplication::sendEvent(&button, &repeated);
+    EXPECT_EQ(recorder.take(), "escapePressed");
+}
+
 TEST(PushButton2, EscapeIsToldBeforeItIsHandled)
 {
     QWidget window(0, "window");
