@@ -7,6 +7,9 @@
 #include <qapplication.h>
 #include <qguardedptr.h>
 
+#include <X11/Xlib.h>
+
+#include <cstring>
 #include <memory>
 
 namespace
@@ -38,6 +41,28 @@ protected:
     EventLog log;
     InputWidget top, outer, inner, other;
 };
+
+// A press and a release in the middle of the widget that another program sends, at the server's time.
+void sendClick(QWidget* widget, unsigned button, Time time)
+{
+    Display* const display = XOpenDisplay(nullptr);
+    XEvent event;
+    std::memset(&event, 0, sizeof event);
+    event.xbutton.window = widget->winId();
+    event.xbutton.root = DefaultRootWindow(display);
+    event.xbutton.x = event.xbutton.y = 5;
+    event.xbutton.x_root = widget->mapToGlobal(QPoint(5, 5)).x();
+    event.xbutton.y_root = widget->mapToGlobal(QPoint(5, 5)).y();
+    event.xbutton.same_screen = True;
+    event.xbutton.button = button;
+    event.xbutton.time = time;
+    event.type = ButtonPress;
+    XSendEvent(display, widget->winId(), False, ButtonPressMask, &event);
+    event.type = ButtonRelease;
+    event.xbutton.state = button > 0 ? Button1Mask << (button - 1) : 0;
+    XSendEvent(display, widget->winId(), False, ButtonReleaseMask, &event);
+    XCloseDisplay(display);
+}
 
 } // namespace
 
@@ -193,6 +218,23 @@ TEST_F(Mouse, TheTimeOfADoubleClickCanBeChosen)
     settle();
     EXPECT_EQ(std::string::npos, log.take().find("double"));
     QApplication::setDoubleClickInterval(400);
+}
+
+TEST_F(Mouse, ADoubleClickMayLieAcrossTheEndOfTheServersTime)
+{
+    other.acceptsMouse = true;
+    sendClick(&other, 1, 0xffffffc0);
+    EXPECT_EQ("other press 5,5 button 1 state 0; other release 5,5 button 1 state 1", happened());
+    sendClick(&other, 1, 0x40);
+    EXPECT_EQ("other double 5,5 button 1 state 0; other release 5,5 button 1 state 1", happened());
+}
+
+TEST_F(Mouse, AButtonThatNoMouseHasIsNotHeard)
+{
+    other.acceptsMouse = true;
+    for (const unsigned button : {0u, 8u, 9u, 255u})
+        sendClick(&other, button, 1);
+    EXPECT_EQ("", happened());
 }
 
 TEST_F(Mouse, MovesWithoutAButtonAreForWhoAsksForThem)

@@ -44,10 +44,10 @@ bool isDoubleClick(QWidget* widget, const x11::Event& e)
 {
     const LastClick before = lastClick;
     const QPoint way = QPoint(e.rootX, e.rootY) - before.pos;
-    const bool twice =
-        before.widget == widget && before.button == e.button &&
-        e.time - before.time < static_cast<unsigned long>(QApplication::doubleClickInterval()) &&
-        std::abs(way.x()) < 5 && std::abs(way.y()) < 5;
+    const unsigned waited = static_cast<unsigned>(e.time - before.time); // the server's 32 bits go round
+    const bool twice = before.widget == widget && before.button == e.button &&
+                       waited < static_cast<unsigned>(QApplication::doubleClickInterval()) &&
+                       std::abs(way.x()) < 5 && std::abs(way.y()) < 5;
     lastClick.widget = twice ? nullptr : widget;
     lastClick.button = e.button;
     lastClick.time = e.time;
@@ -188,8 +188,8 @@ void buttonDown(QWidget* widget, const x11::Event& e)
     if (!anyButton(e.state))
         app->pressed = nullptr;
     QWidget* target = pointerTarget(widget);
-    if (e.button > 3) {
-        if (e.button < 8)
+    if (buttonOf(e.button) == Qt::NoButton) {
+        if (e.button >= 4 && e.button <= 7)
             wheel(target, e);
         return;
     }
@@ -212,7 +212,7 @@ void buttonDown(QWidget* widget, const x11::Event& e)
 
 void buttonUp(QWidget* widget, const x11::Event& e)
 {
-    if (e.button > 3)
+    if (buttonOf(e.button) == Qt::NoButton)
         return;
     QWidget* target = pointerTarget(widget);
     const unsigned released = leftBit << (e.button - 1);
