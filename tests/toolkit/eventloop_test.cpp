@@ -1,4 +1,5 @@
 // The event loop, nested loops and timers.
+#include "fastclock.h"
 #include "inputlog.h"
 #include "signalrecorder.h"
 #include "waiting.h"
@@ -194,6 +195,26 @@ TEST_F(EventLoop, AnotherThreadCanWakeIt)
     qApp->eventLoop()->processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMore);
     waker.join();
     EXPECT_EQ("awake", signals_.take());
+}
+
+TEST_F(EventLoop, WhatIsPostedAsItGoesToSleepKeepsItAwake)
+{
+    struct Leaver : QObject {
+        int left = 3;
+        void customEvent(QCustomEvent*) override
+        {
+            if (--left == 0)
+                qApp->exit_loop();
+        }
+    } leaver;
+    settle();
+    const FastClock clock;
+    Later muchLater(3600000, [] { qApp->exit_loop(); });
+    SignalRecorder signals_;
+    signals_.watch(qApp->eventLoop(), SIGNAL(aboutToBlock()));
+    signals_.whenever = [&] { QApplication::postEvent(&leaver, new QCustomEvent(QEvent::User)); };
+    qApp->enter_loop();
+    EXPECT_EQ(0, clock.passed());
 }
 
 TEST_F(EventLoop, UserInputCanWait)

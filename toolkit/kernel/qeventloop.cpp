@@ -30,6 +30,19 @@ struct EventLoopState {
 
 } // namespace zeltk
 
+namespace
+{
+
+// After all that the program has asked of the X server is on its way.
+bool somethingWaits(bool withInput)
+{
+    if (x11::connected())
+        x11::flush();
+    return zeltk::hasPostedEvents() || (x11::connected() && x11::eventsPending(withInput));
+}
+
+} // namespace
+
 QEventLoop::QEventLoop(QObject* parent, const char* name)
     : QObject(parent, name), d(new zeltk::EventLoopState)
 {
@@ -69,14 +82,14 @@ bool QEventLoop::processEvents(ProcessEventsFlags flags)
 
 void QEventLoop::waitForEvents(ProcessEventsFlags flags)
 {
-    if (x11::connected())
-        x11::flush();
-    if (zeltk::hasPostedEvents() || (x11::connected() && x11::eventsPending(!(flags & ExcludeUserInput))))
+    const bool withInput = !(flags & ExcludeUserInput);
+    if (somethingWaits(withInput))
         return;
     aboutToBlock();
+    const bool sleeps = !somethingWaits(withInput); // who heard of that may have drawn or posted something
     pollfd watched[2] = {{d->wakeUpPipe[0], POLLIN, 0},
                          {x11::connected() ? x11::connectionFd() : -1, POLLIN, 0}};
-    while (poll(watched, 2, zeltk::timeToNextTimer()) < 0 && errno == EINTR) {
+    while (poll(watched, 2, sleeps ? zeltk::timeToNextTimer() : 0) < 0 && errno == EINTR) {
     }
     char bytes[64];
     while (read(d->wakeUpPipe[0], bytes, sizeof bytes) > 0) {
