@@ -161,6 +161,21 @@ TEST(Application, FontsCanBeSetForAClass)
     QApplication::setFont(before, true, "QDesktopWidget");
 }
 
+TEST(Application, ALookForAllReplacesThoseOfClasses)
+{
+    const QFont font = QApplication::font();
+    const QPalette palette = QApplication::palette();
+    const QWidget* const desktop = QApplication::desktop();
+    QApplication::setFont(QFont("DejaVu Sans", 20), false, "QDesktopWidget");
+    QApplication::setPalette(QPalette(Qt::red), false, "QDesktopWidget");
+    EXPECT_EQ(QFont("DejaVu Sans", 20), QApplication::font(desktop));
+    EXPECT_FALSE(palette == QApplication::palette(desktop));
+    QApplication::setFont(font);
+    QApplication::setPalette(palette);
+    EXPECT_EQ(font, QApplication::font(desktop));
+    EXPECT_TRUE(palette == QApplication::palette(desktop));
+}
+
 TEST(Application, WidgetsLearnOfANewFontAndPalette)
 {
     const QFont font = QApplication::font();

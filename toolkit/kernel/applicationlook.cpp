@@ -75,10 +75,12 @@ QPalette styledPalette(QPalette palette)
 void QApplication::setPalette(const QPalette& palette, bool inform, const char* className)
 {
     const QPalette wanted = styled ? styledPalette(palette) : palette;
-    if (className)
+    if (className) {
         classPalettes()[className] = wanted;
-    else
+    } else {
+        classPalettes().clear();
         zeltk::setDefaultPalette(wanted);
+    }
     if (inform)
         informWidgets(className);
 }
@@ -91,7 +93,8 @@ void ensureStyled()
     if (styled)
         return;
     styled = true;
-    QApplication::setPalette(defaultPalette(), true);
+    setDefaultPalette(styledPalette(defaultPalette()));
+    informWidgets(nullptr);
 }
 
 } // namespace zeltk
@@ -104,10 +107,12 @@ QFont QApplication::font(const QWidget* widget)
 
 void QApplication::setFont(const QFont& font, bool inform, const char* className)
 {
-    if (className)
+    if (className) {
         classFonts()[className] = font;
-    else
+    } else {
+        classFonts().clear();
         zeltk::setDefaultFont(font);
+    }
     if (inform)
         informWidgets(className);
 }
