@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <limits>
 #include <vector>
 
 namespace zeltk
@@ -48,16 +49,26 @@ Timer* findTimer(int id)
     return found == timers().end() ? nullptr : &*found;
 }
 
+// They go round at the end of the numbers, past those that are in use.
+int newId()
+{
+    static int last = 0;
+    do
+        last = last == std::numeric_limits<int>::max() ? 1 : last + 1;
+    while (findTimer(last));
+    return last;
+}
+
 } // namespace
 
 int startTimer(QObject* receiver, int milliseconds)
 {
-    static int lastId = 0;
     if (!qApp)
         return 0;
     const std::chrono::milliseconds interval(std::max(milliseconds, 0));
-    timers().push_back({++lastId, receiver, interval, Clock::now() + interval});
-    return lastId;
+    const int id = newId();
+    timers().push_back({id, receiver, interval, Clock::now() + interval});
+    return id;
 }
 
 bool killTimer(int id)
