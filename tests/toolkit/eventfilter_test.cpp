@@ -1,4 +1,6 @@
 // Event filters of objects and of the application.
+#include "perishable.h"
+
 #include <gtest/gtest.h>
 #include <qapplication.h>
 #include <qevent.h>
@@ -165,6 +167,19 @@ TEST_F(EventFilter, TheApplicationsFilterComesBeforeAll)
     qApp->removeEventFilter(&all);
     send();
     EXPECT_EQ(takeSeen(), "b:target a:target target ");
+}
+
+TEST_F(EventFilter, TheApplicationsFilterMayDeleteTheTarget)
+{
+    Filter all("all"), later("later");
+    qApp->installEventFilter(&later);
+    qApp->installEventFilter(&all);
+    auto* doomed = new Perishable<Target>("doomed");
+    all.action = [=] { delete doomed; };
+    QCustomEvent event(QEvent::User);
+    EXPECT_TRUE(QApplication::sendEvent(doomed, &event));
+    EXPECT_EQ(takeSeen(), "all:doomed ");
+    Graveyard::clear();
 }
 
 TEST_F(EventFilter, NullIsNoFilter)

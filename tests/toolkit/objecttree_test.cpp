@@ -4,9 +4,11 @@
 #include <gtest/gtest.h>
 #include <qapplication.h>
 #include <qevent.h>
+#include <qguardedptr.h>
 #include <qlabel.h>
 #include <qobjectlist.h>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -146,6 +148,71 @@ TEST_F(ObjectTree, InsertingTwiceIsAWarning)
     root.insertChild(child);
     EXPECT_EQ(takeMessages(), "QObject::insertChild: Object Node::child already in list\n");
     EXPECT_EQ(namesOf(root.children()), "child");
+}
+
+TEST_F(ObjectTree, NobodyIsPutIntoItself)
+{
+    Node root(nullptr, "root");
+    auto* child = new Node(&root, "child");
+    auto* inner = new Node(child, "inner");
+    inner->insertChild(child);
+    inner->insertChild(inner);
+    root.insertChild(&root);
+    EXPECT_EQ(takeMessages(), "QObject::insertChild: Node::child cannot be inside itself\n"
+                              "QObject::insertChild: Node::inner cannot be inside itself\n"
+                              "QObject::insertChild: Node::root cannot be inside itself\n");
+    EXPECT_EQ(namesOf(root.children()), "child");
+    EXPECT_EQ(namesOf(child->children()), "inner");
+    EXPECT_EQ(inner->children(), nullptr);
+}
+
+TEST_F(ObjectTree, TheOldParentMayDoAnythingWhenAChildMovesAway)
+{
+    std::function<void()> action;
+    struct Old : QObject {
+        explicit Old(std::function<void()>* a) : does(a) {}
+        void childEvent(QChildEvent* event) override
+        {
+            if (event->removed() && *does)
+                (*does)();
+        }
+        std::function<void()>* does;
+    } old(&action);
+    QGuardedPtr<QObject> next = new Node(nullptr, "next");
+    QGuardedPtr<QObject> child = new Node(&old, "child");
+    action = [&] { delete static_cast<QObject*>(next); };
+    next->insertChild(child);
+    EXPECT_TRUE(next.isNull());
+    ASSERT_FALSE(child.isNull());
+    EXPECT_EQ(child->parent(), nullptr);
+
+    next = new Node(nullptr, "next");
+    action = nullptr;
+    old.insertChild(child);
+    action = [&] { delete static_cast<QObject*>(child); };
+    next->insertChild(child);
+    EXPECT_TRUE(child.isNull());
+    EXPECT_EQ(next->children(), nullptr);
+
+    Node third(nullptr, "third");
+    child = new Node(&old, "child");
+    action = [&] { third.insertChild(child); };
+    next->insertChild(child);
+    EXPECT_EQ(child->parent(), &third) << "what was done last";
+    EXPECT_EQ(next->children(), nullptr);
+    delete static_cast<QObject*>(next);
+}
+
+TEST_F(ObjectTree, AWidgetInSomethingElseHasNoParentWidget)
+{
+    Node root(nullptr, "root");
+    QWidget widget(nullptr, "widget");
+    root.insertChild(&widget);
+    EXPECT_EQ(widget.parent(), &root);
+    EXPECT_EQ(widget.parentWidget(), nullptr);
+    widget.show();
+    EXPECT_TRUE(widget.isVisible());
+    root.removeChild(&widget);
 }
 
 TEST_F(ObjectTree, RemovingAStrangerDoesNothing)

@@ -1,6 +1,8 @@
 // Dialogs: how they end, where they stand, which keys they know.
 #include "messages.h"
+#include "perishable.h"
 #include "printers.h"
+#include "signalrecorder.h"
 #include "waiting.h"
 #include "xinput.h"
 
@@ -61,6 +63,20 @@ private:
 };
 
 } // namespace
+
+TEST(DialogEnd, WhoHearsOfTheLastWindowMayDeleteTheDialog)
+{
+    auto* const dialog = new Perishable<Dialog>;
+    SignalRecorder recorder;
+    recorder.watch(qApp, SIGNAL(lastWindowClosed()));
+    recorder.whenever = [&] { delete dialog; };
+    dialog->show();
+    settle();
+    dialog->accept();
+    EXPECT_EQ(recorder.take(), "lastWindowClosed");
+    settle();
+    Graveyard::clear();
+}
 
 TEST(DialogExec, ReturnsTheResultAfterHiding)
 {

@@ -1,5 +1,6 @@
 // Widgets that are deleted by who hears of what happens to them, at any event: nothing of them is used
 // afterwards.
+#include "messages.h"
 #include "perishable.h"
 #include "waiting.h"
 #include "xinput.h"
@@ -8,7 +9,9 @@
 #include <qapplication.h>
 #include <qfont.h>
 #include <qguardedptr.h>
+#include <qlayout.h>
 #include <qpalette.h>
+#include <qpixmap.h>
 
 #include <X11/keysym.h>
 
@@ -171,6 +174,60 @@ TEST_F(WidgetDeletion, WhileItsLookChanges)
     check(showAll, [](Family& family) { family.window->setFont(QFont("Helvetica", 20)); });
     check(showAll, [](Family& family) { family.window->setPalette(QPalette(Qt::red)); });
     check(showAll, [](Family& family) { family.outer->repaint(); });
+}
+
+TEST_F(WidgetDeletion, WhileItTakesItsFontBack)
+{
+    check(
+        [](Family& family) {
+            family.outer->setFont(QFont("Helvetica", 20));
+            showAll(family);
+        },
+        [](Family& family) { family.outer->unsetFont(); });
+}
+
+TEST_F(WidgetDeletion, WhileAnotherTakesItsPalette)
+{
+    check(
+        [](Family& family) {
+            family.second->setPalette(QPalette(Qt::red));
+            showAll(family);
+        },
+        [](Family& family) { family.window->setPalette(family.second->palette()); });
+}
+
+TEST_F(WidgetDeletion, WhileItsContentsAreScrolled)
+{
+    check(showAll, [](Family& family) { family.outer->scroll(3, 4); });
+}
+
+TEST_F(WidgetDeletion, WhileItBecomesLarge)
+{
+    check(showAll, [](Family& family) { family.window->showMaximized(); });
+    check(nothing, [](Family& family) { family.window->showFullScreen(); });
+}
+
+TEST_F(WidgetDeletion, WhileItsPictureIsTaken)
+{
+    check(nothing, [](Family& family) { QPixmap::grabWidget(family.window); });
+    check(showAll, [](Family& family) { QPixmap::grabWidget(family.window); });
+    EXPECT_EQ(takeMessages(), "");
+}
+
+TEST_F(WidgetDeletion, WhileALayoutPlacesIt)
+{
+    const Action inColumn = [](Family& family) {
+        QVBoxLayout* const column = new QVBoxLayout(family.outer);
+        column->add(family.inner);
+        column->add(family.other);
+        showAll(family);
+    };
+    check(inColumn, [](Family& family) { family.outer->resize(120, 80); });
+    check(inColumn, [](Family& family) {
+        family.outer->layout()->setMargin(7);
+        family.outer->layout()->activate();
+    });
+    check(inColumn, [](Family& family) { family.outer->layout()->freeze(60, 50); });
 }
 
 TEST_F(WidgetDeletion, WhileTheFocusMoves)

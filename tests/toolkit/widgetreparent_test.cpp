@@ -1,11 +1,13 @@
 // Widgets that get another parent, are stacked anew, or die.
 #include "eventlog.h"
+#include "messages.h"
 #include "pixels.h"
 #include "printers.h"
 #include "waiting.h"
 
 #include <gtest/gtest.h>
 #include <qapplication.h>
+#include <qevent.h>
 #include <qguardedptr.h>
 #include <qobjectlist.h>
 #include <qwidget.h>
@@ -15,6 +17,20 @@ namespace
 {
 
 const unsigned red = 0xff0000;
+
+// Deletes somebody when a child leaves.
+class Avenger : public QWidget
+{
+public:
+    QGuardedPtr<QWidget> victim;
+
+protected:
+    void childEvent(QChildEvent* event) override
+    {
+        if (event->removed())
+            delete static_cast<QWidget*>(victim);
+    }
+};
 
 std::string names(const QObjectList* objects)
 {
@@ -85,6 +101,58 @@ TEST(WidgetReparent, AChildBecomesAWindowAndBack)
     EXPECT_EQ(QRect(3, 4, 30, 20), child->geometry());
     settle();
     EXPECT_EQ(16, Pixels::ofRoot(13, 14, 30, 20).count(red));
+}
+
+TEST(WidgetReparent, NobodyIsMovedIntoItself)
+{
+    QWidget window;
+    QWidget* child = new QWidget(&window, "child");
+    QWidget* inner = new QWidget(child);
+    child->reparent(inner, QPoint(0, 0));
+    child->reparent(child, QPoint(0, 0));
+    EXPECT_EQ("QWidget::reparent: child cannot be inside itself\n"
+              "QWidget::reparent: child cannot be inside itself\n",
+              takeMessages());
+    EXPECT_EQ(&window, child->parentWidget());
+}
+
+TEST(WidgetReparent, WhoseNewParentDiesMeanwhileIsAHiddenWindow)
+{
+    Avenger old;
+    QWidget* const next = new QWidget;
+    QWidget* const child = new QWidget(&old);
+    QWidget inner(child);
+    inner.setGeometry(0, 0, 5, 5);
+    inner.setPaletteBackgroundColor(Qt::red);
+    showAndWait(&old);
+    showAndWait(next);
+    old.victim = next;
+    child->reparent(next, QPoint(30, 40), true);
+    EXPECT_TRUE(child->isTopLevel());
+    EXPECT_EQ(nullptr, child->parentWidget());
+    EXPECT_FALSE(child->isVisible());
+    showAndWait(child);
+    inner.move(10, 10);
+    EXPECT_EQ(25, Pixels::of(child).count(red));
+    EXPECT_EQ("", takeMessages()) << "the server has all windows still";
+    inner.reparent(&old, QPoint(0, 0));
+    delete child;
+}
+
+TEST(WidgetReparent, WhoseOldParentDiesMeanwhileGoesOn)
+{
+    Avenger* const old = new Avenger;
+    QWidget next;
+    QWidget* const child = new QWidget(old);
+    child->setPaletteBackgroundColor(Qt::red);
+    showAndWait(old);
+    showAndWait(&next);
+    old->victim = old;
+    child->resize(5, 5);
+    child->reparent(&next, QPoint(3, 4), true);
+    EXPECT_EQ(&next, child->parentWidget());
+    EXPECT_EQ(25, Pixels::of(&next).count(red));
+    EXPECT_EQ("", takeMessages()) << "the server has all windows still";
 }
 
 TEST(WidgetReparent, ADisabledParentDisables)

@@ -147,8 +147,8 @@ void QDialog::done(int result)
     if (!alive)
         return;
     setResult(result);
-    zeltk::windowClosed(this, wasMainWidget);
-    if (!wasMainWidget && testWFlags(WDestructiveClose))
+    zeltk::windowClosed(wasMainWidget);
+    if (alive && !wasMainWidget && testWFlags(WDestructiveClose))
         deleteLater();
 }
 

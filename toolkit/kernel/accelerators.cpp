@@ -23,8 +23,8 @@ struct Accelerator {
 
 std::vector<Accelerator>& accelerators()
 {
-    static std::vector<Accelerator> all;
-    return all;
+    static auto* const all = new std::vector<Accelerator>; // windows may outlive main()
+    return *all;
 }
 
 // The pressed key with its modifiers in the form of an accelerator.

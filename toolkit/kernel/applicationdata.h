@@ -21,7 +21,7 @@ struct ApplicationData {
     QEventLoop* loop = nullptr;
     QWidget* mainWidget = nullptr;
     QDesktopWidget* desktop = nullptr;
-    std::vector<QGuardedPtr<QTranslator>> translators; // the last one is asked first
+    std::vector<QTranslator*> translators; // the last one is asked first
     std::vector<QCursor> overrideCursors;
 
     QWidget* active = nullptr; // the window that has the keyboard

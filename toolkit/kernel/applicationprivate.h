@@ -24,7 +24,7 @@ void modalHidden(QWidget* modal);
 bool blockedByModal(QWidget* widget);
 
 // After the close event of a window was accepted and it was hidden.
-void windowClosed(QWidget* window, bool wasMainWidget);
+void windowClosed(bool wasMainWidget);
 
 // A widget is hidden, disabled or dies: focus, grabs and hover move on.
 void widgetHidden(QWidget* widget);

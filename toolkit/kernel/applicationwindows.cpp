@@ -85,7 +85,7 @@ void QApplication::closeAllWindows()
 namespace zeltk
 {
 
-void windowClosed(QWidget*, bool wasMainWidget)
+void windowClosed(bool wasMainWidget)
 {
     if (wasMainWidget && qApp)
         qApp->quit();

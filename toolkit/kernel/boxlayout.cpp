@@ -3,6 +3,7 @@
 
 #include <qapplication.h>
 #include <qevent.h>
+#include <qguardedptr.h>
 #include <qwidget.h>
 
 using zeltk::BoxItem;
@@ -309,12 +310,14 @@ void QBoxLayout::setGeometry(const QRect& room)
     const QRect inside(all.x() + margin(), all.y() + margin(), all.width() - 2 * margin(),
                        all.height() - 2 * margin());
     const bool h = data->horizontal();
+    const bool backwards = data->direction == RightToLeft || data->direction == BottomToTop;
+    const int length = h ? inside.width() : inside.height();
     std::vector<Share> row = data->rowFor(inside.width());
-    shareSpace(row, 0, h ? inside.width() : inside.height(), spacing());
-    for (size_t i = 0; i < data->items.size() && i < row.size(); ++i) { // widgets may take others out
+    shareSpace(row, 0, length, spacing());
+    const QGuardedPtr<QLayout> alive(this);
+    for (size_t i = 0; alive && i < data->items.size() && i < row.size();
+         ++i) { // widgets may take others out
         const Share& share = row[i];
-        const bool backwards = data->direction == RightToLeft || data->direction == BottomToTop;
-        const int length = h ? inside.width() : inside.height();
         const int pos = backwards ? length - share.pos - share.size : share.pos;
         data->items[i].item->setGeometry(h ? QRect(inside.x() + pos, inside.y(), share.size, inside.height())
                                            : QRect(inside.x(), inside.y() + pos, inside.width(), share.size));

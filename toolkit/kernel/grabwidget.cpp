@@ -12,36 +12,45 @@ namespace
 class Diversion
 {
 public:
-    Diversion(QWidget* divertedWidget, const QPixmap& pixmap)
-        : widget(divertedWidget), window(divertedWidget->winId())
+    Diversion(QWidget* divertedWidget, const QPixmap& pixmap) : widget(divertedWidget)
     {
         zeltk::WidgetAccess::setWinId(widget, pixmap.handle());
     }
-    ~Diversion() { zeltk::WidgetAccess::setWinId(widget, window); }
+    ~Diversion()
+    {
+        if (widget)
+            zeltk::WidgetAccess::setWinId(widget, zeltk::dataOf(widget)->window);
+    }
 
 private:
-    QWidget* widget;
-    const WId window;
+    const QGuardedPtr<QWidget> widget;
 };
 
-// With all children, whether they are on the screen or not.
+// With all children, whether they are on the screen or not. Any of them may die of what it hears; the picture
+// of the dead is null or not complete.
 QPixmap picture(QWidget* widget)
 {
+    const QGuardedPtr<QWidget> alive(widget);
     widget->constPolish();
-    QApplication::sendPostedEvents(widget, QEvent::ChildInserted);
-    QApplication::sendPostedEvents(widget, QEvent::Move);
-    QApplication::sendPostedEvents(widget, QEvent::Resize);
+    for (const QEvent::Type type : {QEvent::ChildInserted, QEvent::Move, QEvent::Resize})
+        if (alive)
+            QApplication::sendPostedEvents(widget, type);
+    if (!alive)
+        return QPixmap();
     QPixmap pixmap(widget->size());
     pixmap.fill(widget, 0, 0);
     {
         const Diversion diversion(widget, pixmap);
         zeltk::deliverPaint(widget, QRegion(widget->rect()), true);
     }
-    for (QWidget* child : zeltk::childWidgets(widget)) {
-        if (child->isTopLevel() || child->isHidden())
+    if (!alive)
+        return pixmap;
+    for (const QGuardedPtr<QWidget>& child : zeltk::guardedChildren(widget)) {
+        if (!child || child->isTopLevel() || child->isHidden())
             continue;
         const QPixmap part = picture(child);
-        bitBlt(&pixmap, child->pos(), &part);
+        if (child)
+            bitBlt(&pixmap, child->pos(), &part);
     }
     return pixmap;
 }
@@ -59,7 +68,10 @@ QPixmap QPixmap::grabWidget(QWidget* widget, int x, int y, int w, int h)
     const QRect wanted = QRect(x, y, w, h) & widget->rect();
     if (wanted.isEmpty())
         return QPixmap();
+    const QGuardedPtr<QWidget> alive(widget);
     const QPixmap whole = picture(widget);
+    if (!alive)
+        return QPixmap();
     QPixmap part(w, h);
     part.fill(widget, x, y);
     bitBlt(&part, 0, 0, &whole, x, y, w, h);

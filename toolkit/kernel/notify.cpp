@@ -7,27 +7,13 @@
 #include <qevent.h>
 #include <qwidget.h>
 
-#include <algorithm>
-
 namespace
 {
 
 // The application's own filters see the events of all objects.
-bool filteredByApplication(QObject* receiver, QEvent* event)
-{
-    const std::vector<QObject*> asked(zeltk::dataOf(qApp)->filters.rbegin(),
-                                      zeltk::dataOf(qApp)->filters.rend());
-    for (QObject* filter : asked) {
-        const std::vector<QObject*>& left = zeltk::dataOf(qApp)->filters;
-        if (std::find(left.begin(), left.end(), filter) != left.end() && filter->eventFilter(receiver, event))
-            return true;
-    }
-    return false;
-}
-
 bool deliver(QObject* receiver, QEvent* event)
 {
-    if (receiver != qApp && filteredByApplication(receiver, event))
+    if (receiver != qApp && zeltk::askFilters(qApp, receiver, event))
         return true;
     return receiver->event(event);
 }

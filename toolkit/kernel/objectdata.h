@@ -72,6 +72,9 @@ inline ObjectData* dataOf(const QObject* object)
     return ObjectAccess::data(object);
 }
 
+// Whether a filter on the watched object, which is the receiver or the application, keeps the event from the
+// receiver; also if the receiver dies of it.
+bool askFilters(QObject* watched, QObject* receiver, QEvent* event);
 // Calls the handlers that every object has; false if there is none for the event. May delete the object.
 bool handlePlainEvent(QObject* object, QEvent* event);
 // Breaks everything that leads to or from an object that dies.

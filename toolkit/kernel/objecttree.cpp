@@ -34,6 +34,12 @@ struct Query {
     }
 };
 
+// The child and its siblings; null without a parent.
+QObjectList* familyOf(const QObject* child)
+{
+    return child->parent() ? zeltk::dataOf(child->parent())->children : nullptr;
+}
+
 void search(const QObject* object, const Query& query, QObjectList* found)
 {
     if (!object->children())
@@ -63,24 +69,21 @@ void removeFromTrees(QObject* object)
 
 void moveToFront(QObject* child)
 {
-    QObject* parent = child->parent();
-    QObjectList* siblings = parent ? dataOf(parent)->children : nullptr;
+    QObjectList* const siblings = familyOf(child);
     if (siblings && siblings->removeRef(child))
         siblings->append(child);
 }
 
 void moveToBack(QObject* child)
 {
-    QObject* parent = child->parent();
-    QObjectList* siblings = parent ? dataOf(parent)->children : nullptr;
+    QObjectList* const siblings = familyOf(child);
     if (siblings && siblings->removeRef(child))
         siblings->prepend(child);
 }
 
 void moveBefore(QObject* child, QObject* sibling)
 {
-    QObject* parent = child->parent();
-    QObjectList* siblings = parent ? dataOf(parent)->children : nullptr;
+    QObjectList* const siblings = familyOf(child);
     if (siblings && siblings->removeRef(child))
         siblings->insert(static_cast<uint>(siblings->findRef(sibling)), child);
 }
@@ -121,8 +124,19 @@ void QObject::insertChild(QObject* child)
         qWarning("QObject::insertChild: Object %s::%s already in list", child->className(), child->name());
         return;
     }
-    if (child->d->parent)
-        child->d->parent->removeChild(child);
+    for (const QObject* outer = this; outer; outer = outer->d->parent)
+        if (outer == child) {
+            qWarning("QObject::insertChild: %s::%s cannot be inside itself", child->className(),
+                     child->name());
+            return;
+        }
+    if (QObject* const before = child->d->parent) {
+        const zeltk::ObjectGuard alive(this);
+        const zeltk::ObjectGuard moving(child);
+        before->removeChild(child);
+        if (!alive.object() || !moving.object() || child->d->parent)
+            return; // who heard of it thought otherwise
+    }
     zeltk::removeFromTrees(child);
     if (!d->children)
         d->children = new QObjectList;

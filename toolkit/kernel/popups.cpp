@@ -8,8 +8,6 @@
 
 #include <qguardedptr.h>
 
-#include <qguardedptr.h>
-
 #include <algorithm>
 #include <vector>
 

@@ -130,8 +130,9 @@ void QLayout::freeze(int w, int h)
         freeze();
         return;
     }
+    const QGuardedPtr<QWidget> main(mainWidget());
     setResizeMode(FreeResize);
-    if (QWidget* main = mainWidget())
+    if (main)
         main->setFixedSize(w, h);
 }
 
@@ -172,17 +173,19 @@ bool QLayout::activate()
 {
     if (QLayout* outer = outerLayout(this))
         return outer->activate();
-    QWidget* const main = topLevel ? mainWidget() : nullptr;
+    const QGuardedPtr<QWidget> main(topLevel ? mainWidget() : nullptr);
     if (!main || !enabled)
         return false;
     invalidateAll(this);
     activated = true;
+    const QGuardedPtr<QLayout> alive(this); // who is placed may delete it
     setGeometry(main->rect());
-    if (mode == Fixed)
+    if (alive && mode == Fixed)
         main->setFixedSize(totalSizeHint());
-    else if (mode == Minimum || (mode == Auto && main->isTopLevel() && !hasHeightForWidth()))
+    else if (alive && (mode == Minimum || (mode == Auto && main->isTopLevel() && !hasHeightForWidth())))
         main->setMinimumSize(totalMinimumSize());
-    main->updateGeometry();
+    if (main)
+        main->updateGeometry();
     return true;
 }
 

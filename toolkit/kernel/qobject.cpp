@@ -179,15 +179,21 @@ void QObject::cleanupEventFilter(QObject* filter)
     removeEventFilter(filter);
 }
 
-// Filters may come and go, and the object may die, while they are asked.
 bool QObject::activate_filters(QEvent* event)
 {
-    const std::vector<QObject*> asked(d->filters.rbegin(), d->filters.rend());
-    const zeltk::ObjectGuard alive(asked.empty() ? nullptr : this);
+    return zeltk::askFilters(this, this, event);
+}
+
+// Filters may come and go, and the receiver may die, while they are asked.
+bool zeltk::askFilters(QObject* watched, QObject* receiver, QEvent* event)
+{
+    const std::vector<QObject*>& filters = dataOf(watched)->filters;
+    const std::vector<QObject*> asked(filters.rbegin(), filters.rend());
+    const ObjectGuard alive(asked.empty() ? nullptr : receiver);
     for (QObject* filter : asked) {
-        if (std::find(d->filters.begin(), d->filters.end(), filter) == d->filters.end())
+        if (std::find(filters.begin(), filters.end(), filter) == filters.end())
             continue;
-        if (filter->eventFilter(this, event) || !alive.object())
+        if (filter->eventFilter(receiver, event) || !alive.object())
             return true;
     }
     return false;

@@ -76,17 +76,32 @@ void startGeometry(QWidget* widget)
     QApplication::postEvent(widget, new QResizeEvent(start.size(), start.size()));
 }
 
+void setWindow(QWidget* widget, WId window)
+{
+    zeltk::dataOf(widget)->window = window;
+    zeltk::WidgetAccess::setWinId(widget, window);
+}
+
 // The server ends all windows inside with it.
 void forgetWindows(QWidget* widget)
 {
     byWindow().erase(widget->winId());
     if (!widget->isDesktop())
         x11::forgetDrawable(widget->winId());
-    zeltk::WidgetAccess::setWinId(widget, 0);
+    setWindow(widget, 0);
     zeltk::dataOf(widget)->mapped = false;
     for (QWidget* child : zeltk::childWidgets(widget))
         if (!child->isTopLevel())
             forgetWindows(child);
+}
+
+// Tells those whose proxy it is; what they do then may change the list.
+void forgetFocusProxy(const QWidget* proxy)
+{
+    const std::vector<QGuardedPtr<QWidget>> all(widgets().begin(), widgets().end());
+    for (const QGuardedPtr<QWidget>& widget : all)
+        if (widget && zeltk::dataOf(widget)->focusProxy == proxy)
+            zeltk::WidgetAccess::focusProxyDestroyed(widget);
 }
 
 } // namespace
@@ -121,13 +136,13 @@ void makeWindow(QWidget* widget)
     WidgetData* data = dataOf(widget);
     if (widget->isDesktop()) {
         data->rect = data->frame = QRect(0, 0, x11::screenWidth(), x11::screenHeight());
-        WidgetAccess::setWinId(widget, x11::rootWindow());
+        setWindow(widget, x11::rootWindow());
     } else {
         startGeometry(widget);
         const QRect& box = data->rect;
-        WidgetAccess::setWinId(widget, x11::createWindow(outerWindow(widget, widget->parentWidget()), box.x(),
-                                                         box.y(), box.width(), box.height(),
-                                                         widget->isTopLevel(), isUnmanaged(widget)));
+        setWindow(widget,
+                  x11::createWindow(outerWindow(widget, widget->parentWidget()), box.x(), box.y(),
+                                    box.width(), box.height(), widget->isTopLevel(), isUnmanaged(widget)));
         if (data->flags & Qt::WStaticContents)
             x11::keepContents(widget->winId(), true);
     }
@@ -135,7 +150,7 @@ void makeWindow(QWidget* widget)
     data->state |= Qt::WState_Created;
 }
 
-void rehangWindow(QWidget* widget, const QWidget* parent, Qt::WFlags flags)
+void takeWindowOut(QWidget* widget, const QWidget* parent, Qt::WFlags flags)
 {
     WidgetData* data = dataOf(widget);
     data->flags = completed(flags, parent);
@@ -144,9 +159,19 @@ void rehangWindow(QWidget* widget, const QWidget* parent, Qt::WFlags flags)
     WidgetAccess::clearState(widget, Qt::WState_Resized);
     startGeometry(widget);
     const QRect& box = data->rect;
-    x11::rehangWindow(widget->winId(), outerWindow(widget, parent), box.x(), box.y(), widget->isTopLevel(),
+    x11::rehangWindow(widget->winId(), x11::rootWindow(), box.x(), box.y(), widget->isTopLevel(),
                       isUnmanaged(widget));
     x11::moveResizeWindow(widget->winId(), box.x(), box.y(), box.width(), box.height());
+}
+
+void putWindowIn(QWidget* widget, const QWidget* parent)
+{
+    if (widget->isTopLevel())
+        return;
+    WidgetData* data = dataOf(widget);
+    data->flags = completed(data->flags, parent);
+    x11::rehangWindow(widget->winId(), outerWindow(widget, parent), data->rect.x(), data->rect.y(),
+                      widget->isTopLevel(), isUnmanaged(widget));
 }
 
 void unmakeWindow(QWidget* widget)
@@ -182,14 +207,13 @@ QWidget::QWidget(QWidget* parent, const char* name, WFlags f)
 QWidget::~QWidget()
 {
     w->dying = true;
+    zeltk::WidgetAccess::setWinId(this, w->window);
     if (hasFocus())
         clearFocus();
     if (isVisible() && !isDesktop())
         hide();
     if (w->isFocusProxy)
-        for (QWidget* other : widgets())
-            if (zeltk::dataOf(other)->focusProxy == this)
-                zeltk::WidgetAccess::focusProxyDestroyed(other);
+        forgetFocusProxy(this);
     zeltk::widgetDestroyed(this);
     widgets().erase(std::find(widgets().begin(), widgets().end(), this));
     zeltk::unmakeWindow(this);
@@ -252,7 +276,8 @@ QWidget* QWidget::parentWidget(bool sameWindow) const
 {
     if (sameWindow && isTopLevel())
         return nullptr;
-    return static_cast<QWidget*>(parent());
+    QObject* const container = parent();
+    return container && container->isWidgetType() ? static_cast<QWidget*>(container) : nullptr;
 }
 
 QWidget* QWidget::topLevelWidget() const

@@ -52,11 +52,11 @@ QString QApplication::translate(const char* context, const char* key, const char
 {
     if (!key)
         return QString::null;
-    const std::vector<QGuardedPtr<QTranslator>>& translators = application()->translators;
-    for (auto it = translators.rbegin(); it != translators.rend(); ++it) {
-        if (it->isNull())
-            continue;
-        const QString found = (*it)->findMessage(context, key, comment).translation();
+    const std::vector<QTranslator*>& translators = application()->translators;
+    for (size_t i = translators.size(); i-- > 0;) {
+        if (i >= translators.size())
+            continue; // one of the program's own has removed some when it was asked
+        const QString found = translators[i]->findMessage(context, key, comment).translation();
         if (!found.isNull())
             return found;
     }
@@ -74,12 +74,9 @@ void QApplication::installTranslator(QTranslator* translator)
 // However often it was installed.
 void QApplication::removeTranslator(QTranslator* translator)
 {
-    std::vector<QGuardedPtr<QTranslator>>& translators = application()->translators;
-    const auto rest = std::remove_if(
-        translators.begin(), translators.end(), [translator](const QGuardedPtr<QTranslator>& installed) {
-            return installed.isNull() || static_cast<QTranslator*>(installed) == translator;
-        });
-    if (!translator || rest == translators.end())
+    std::vector<QTranslator*>& translators = application()->translators;
+    const auto rest = std::remove(translators.begin(), translators.end(), translator);
+    if (rest == translators.end())
         return;
     translators.erase(rest, translators.end());
     tellLanguageChange();

@@ -16,6 +16,7 @@ namespace zeltk
 struct WidgetData {
     WState state = 0;
     WFlags flags = 0;
+    WId window = 0; // also while painters on the widget draw elsewhere
 
     QRect rect;  // in the parent; of windows on the screen, without the window manager's frame
     QRect frame; // of windows, with it
@@ -76,6 +77,7 @@ struct WidgetAccess {
     static void fontChange(QWidget* widget, const QFont& old) { widget->fontChange(old); }
     static void enabledChange(QWidget* widget, bool old) { widget->enabledChange(old); }
     static void activationChange(QWidget* widget, bool old) { widget->windowActivationChange(old); }
+    // Where its painters draw: on the window, or for a while on something else.
     static void setWinId(QWidget* widget, WId id) { widget->hd = id; }
     static void focusProxyDestroyed(QWidget* widget) { widget->focusProxyDestroyed(); }
 };
@@ -100,8 +102,11 @@ bool isPaletteMode(Qt::BackgroundMode mode);
 // Sets the window's background from its mode and colours.
 void applyBackground(QWidget* widget);
 void applyCursor(QWidget* widget);
-// Puts the window into its new parent's, with the geometry and the flags of a new widget.
-void rehangWindow(QWidget* widget, const QWidget* parent, Qt::WFlags flags);
+// For a widget on its way to that parent: gives it the flags and the geometry of a new one. Its window is
+// inside of nobody's until putWindowIn(): with a parent who dies meanwhile goes every window in it.
+void takeWindowOut(QWidget* widget, const QWidget* parent, Qt::WFlags flags);
+// Without a parent it becomes a window of its own.
+void putWindowIn(QWidget* widget, const QWidget* parent);
 void leaveTabOrder(QWidget* widget);
 void joinTabOrder(QWidget* widget);
 // Tell the window manager all it may know; once it knows, only what changed.

@@ -77,8 +77,10 @@ void QWidget::setFont(const QFont& font)
 
 void QWidget::unsetFont()
 {
+    const QGuardedPtr<QWidget> alive(this);
     setFont(inheritedFont(this));
-    w->ownFont = false;
+    if (alive)
+        w->ownFont = false;
 }
 
 void QWidget::fontChange(const QFont&)

@@ -212,10 +212,12 @@ void QWidget::scroll(int dx, int dy)
 {
     if (!isVisible() || (dx == 0 && dy == 0))
         return;
-    for (QWidget* child : zeltk::childWidgets(this))
-        if (!child->isTopLevel())
+    const QGuardedPtr<QWidget> alive(this);
+    for (const QGuardedPtr<QWidget>& child : zeltk::guardedChildren(this))
+        if (child && !child->isTopLevel())
             child->move(child->pos() + QPoint(dx, dy));
-    scroll(dx, dy, rect());
+    if (alive)
+        scroll(dx, dy, rect());
 }
 
 // The pixels move; what they leave is painted.

@@ -20,12 +20,13 @@ QPalette inheritedPalette(const QWidget* widget)
 }
 
 // Children without a palette of their own follow, before the widget itself is told.
-void changePalette(QWidget* widget, const QPalette& palette)
+void changePalette(QWidget* widget, const QPalette& wanted)
 {
     WidgetData* data = dataOf(widget);
-    if (data->palette == palette)
+    if (data->palette == wanted)
         return;
     const QPalette old = data->palette;
+    const QPalette palette = wanted; // it may be another widget's, which somebody who is told deletes
     data->palette = palette;
     zeltk::applyBackground(widget);
     const QGuardedPtr<QWidget> alive(widget);

@@ -1,5 +1,6 @@
 // QWidget: showing, hiding, closing, and moving to another parent.
 #include "kernel/applicationprivate.h"
+#include "kernel/dispatch.h"
 #include "kernel/widgetdata.h"
 #include "x11/window.h"
 
@@ -258,7 +259,7 @@ bool QWidget::close(bool alsoDelete)
     const bool counts = isTopLevel() && !isPopup();
     hide();
     if (counts && alive)
-        zeltk::windowClosed(this, wasMain);
+        zeltk::windowClosed(wasMain);
     if (alsoDelete && alive)
         delete this;
     return true;
@@ -269,6 +270,10 @@ bool QWidget::close(bool alsoDelete)
 // window.
 void QWidget::reparent(QWidget* parent, WFlags f, const QPoint& pos, bool showIt)
 {
+    if (zeltk::isInside(parent, this)) {
+        qWarning("QWidget::reparent: %s cannot be inside itself", name());
+        return;
+    }
     const QSize keptSize = size();
     const bool leavesWindow =
         isTopLevel() || !parent || (f & WType_Mask) || parent->topLevelWidget() != topLevelWidget();
@@ -285,13 +290,14 @@ void QWidget::reparent(QWidget* parent, WFlags f, const QPoint& pos, bool showIt
     if (!alive)
         return;
     hideWindow(this);
-    zeltk::rehangWindow(this, newParent, f);
+    zeltk::takeWindowOut(this, newParent, f);
     if (QObject* old = this->parent())
         old->removeChild(this);
     if (newParent && alive)
         newParent->insertChild(this);
     if (!alive)
         return;
+    zeltk::putWindowIn(this, newParent);
     if (!newParent || isTopLevel() || w->selfHidden || newParent->isVisible())
         setWState(WState_ForceHide);
     else

@@ -41,6 +41,14 @@ void setMinimized(QWidget* window, bool minimized)
     sendStateChange(window);
 }
 
+void showIn(QWidget* window, uint state)
+{
+    const QGuardedPtr<QWidget> alive(window);
+    window->setWindowState(state);
+    if (alive)
+        window->show();
+}
+
 // To the window and all that can be seen in it.
 template <typename Event>
 void tellVisible(QWidget* widget)
@@ -159,9 +167,11 @@ void QWidget::setWindowState(uint state)
     } else {
         w->described = false;
     }
+    const QGuardedPtr<QWidget> alive(this);
     if ((state ^ before) & large)
         setGeometry(state & large ? QApplication::desktop()->screenGeometry() : w->normalRect);
-    sendStateChange(this);
+    if (alive)
+        sendStateChange(this);
 }
 
 void QWidget::iconify()
@@ -171,24 +181,20 @@ void QWidget::iconify()
 
 void QWidget::showMinimized()
 {
-    setWindowState(windowState() | WindowMinimized);
-    show();
+    showIn(this, windowState() | WindowMinimized);
 }
 
 void QWidget::showMaximized()
 {
-    setWindowState((windowState() & ~(WindowMinimized | WindowFullScreen)) | WindowMaximized);
-    show();
+    showIn(this, (windowState() & ~(WindowMinimized | WindowFullScreen)) | WindowMaximized);
 }
 
 void QWidget::showFullScreen()
 {
-    setWindowState((windowState() & ~(WindowMinimized | WindowMaximized)) | WindowFullScreen);
-    show();
+    showIn(this, (windowState() & ~(WindowMinimized | WindowMaximized)) | WindowFullScreen);
 }
 
 void QWidget::showNormal()
 {
-    setWindowState(windowState() & ~(WindowMinimized | WindowMaximized | WindowFullScreen));
-    show();
+    showIn(this, windowState() & ~(WindowMinimized | WindowMaximized | WindowFullScreen));
 }
