@@ -113,6 +113,12 @@ TEST_F(ControlDeletion, OfALineEditUnderThePointer)
          }},
         {marked, [](QLineEdit* e) { e->setSelection(0, 10), xinput::click(e, 15, 10); }},
         {marked, afterMarking([](QLineEdit* e) { xinput::click(e, 100, 10, 2); })},
+        {marked,
+         [](QLineEdit* e) {
+             xinput::moveTo(e, 100, 10), xinput::pressButton(2), settle();
+             e->blockSignals(true), e->selectAll(), e->blockSignals(false);
+             xinput::releaseButton(2);
+         }},
         {changed, afterMarking([](QLineEdit* e) { xinput::click(e, 100, 10, 2); })}};
     checkAll<QLineEdit>(cases, [this] {
         QApplication::clipboard()->setText("paste", QClipboard::Selection);
