@@ -171,3 +171,17 @@ TEST_F(ControlDeletion, OfAComboBoxStopsTheEndOfItsList)
     EXPECT_TRUE(static_cast<QObject*>(combo)->eventFilter(combo->listBox(), &hidden));
     EXPECT_EQ(recorder.take(), "highlighted(0)");
 }
+
+TEST_F(ControlDeletion, OfAComboBoxWhoseMarkedTextBecomesAnEntry)
+{
+    QComboBox* combo = new Perishable<QComboBox>(true, &window);
+    combo->setInsertionPolicy(QComboBox::AtTop);
+    combo->insertItem("One");
+    combo->setEditText("new");
+    combo->lineEdit()->selectAll();
+    SignalRecorder recorder;
+    recorder.watch(combo->lineEdit(), SIGNAL(selectionChanged()));
+    recorder.whenever = [combo] { delete combo; };
+    sendKey(combo->lineEdit(), Qt::Key_Return);
+    EXPECT_EQ(recorder.take(), "selectionChanged");
+}
