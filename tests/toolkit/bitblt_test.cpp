@@ -1,4 +1,5 @@
 // Copying pixels between devices.
+#include "messages.h"
 #include "sheet.h"
 #include "waiting.h"
 
@@ -118,6 +119,14 @@ brr..
 rrr..
 )",
               drawing(to));
+}
+
+TEST_F(BitBlt, RefusesOperationsThatDoNotExist)
+{
+    const Pixels before = Pixels::of(to);
+    bitBlt(&to, 0, 0, &from, 0, 0, -1, -1, static_cast<Qt::RasterOp>(99));
+    EXPECT_EQ("bitBlt: Invalid ROP code\n", takeMessages());
+    EXPECT_EQ(before, Pixels::of(to));
 }
 
 TEST_F(BitBlt, DoesNothingWithNullPixmaps)

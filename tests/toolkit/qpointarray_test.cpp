@@ -6,6 +6,7 @@
 #include <qpointarray.h>
 
 #include <cmath>
+#include <limits>
 
 namespace
 {
@@ -95,4 +96,22 @@ TEST(PointArray, CurvesBeginAndEndAtTheOuterControlPoints)
     control.resize(3);
     EXPECT_TRUE(control.cubicBezier().isEmpty());
     EXPECT_NE("", takeMessages());
+}
+
+TEST(PointArray, CurvesLargerThanAnyDeviceHaveAnEnd)
+{
+    constexpr int least = std::numeric_limits<int>::min();
+    constexpr int most = std::numeric_limits<int>::max();
+    QPointArray arc;
+    arc.makeArc(0, 0, most, most, 0, 16 * 360);
+    EXPECT_LE(arc.size(), 65537u);
+    EXPECT_EQ(QPoint(most - 1, most / 2), arc.point(0));
+    arc.makeArc(5, 5, least, least, 0, most);
+    EXPECT_EQ(3u, arc.size());
+    QPointArray control;
+    control.setPoints(4, least, least, most, most, least, most, most, 0);
+    const QPointArray curve = control.cubicBezier();
+    EXPECT_LE(curve.size(), 65537u);
+    EXPECT_EQ(QPoint(least, least), curve.point(0));
+    EXPECT_EQ(QPoint(most, 0), curve.point(curve.size() - 1));
 }

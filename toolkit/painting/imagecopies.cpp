@@ -24,7 +24,7 @@ void bitBlt(QImage* dst, int dx, int dy, const QImage* src, int sx, int sy, int 
     if (dst->isNull() || src->isNull())
         return;
     const QRect wanted(sx, sy, sw < 0 ? src->width() : sw, sh < 0 ? src->height() : sh);
-    const QPoint shift(dx - sx, dy - sy);
+    const QPoint shift = QPoint(dx, dy) - QPoint(sx, sy);
     QRect target = wanted & src->rect();
     target.moveBy(shift.x(), shift.y());
     target &= dst->rect();

@@ -27,48 +27,35 @@ x11::JoinStyle joinOf(Qt::PenJoinStyle join)
                                    : x11::JoinMitered;
 }
 
-// Dashes and gaps of a pen one unit wide.
-std::vector<char> dashesOf(Qt::PenStyle style)
-{
-    switch (style) {
-    case Qt::DashLine:
-        return {3, 1};
-    case Qt::DotLine:
-        return {1, 1};
-    case Qt::DashDotLine:
-        return {3, 1, 1, 1};
-    case Qt::DashDotDotLine:
-        return {3, 1, 1, 1, 1, 1};
-    default:
-        return {};
-    }
-}
+struct Dashes {
+    Qt::PenStyle style;
+    std::vector<char> wide; // in widths of the pen
+    std::vector<char> thin; // in pixels, for pens of one pixel: longer, so that they can be told apart
+};
 
-// Thin pens have longer ones, so that they can be told apart.
-std::vector<char> thinDashesOf(Qt::PenStyle style)
-{
-    switch (style) {
-    case Qt::DashLine:
-        return {18, 6};
-    case Qt::DotLine:
-        return {3, 3};
-    case Qt::DashDotLine:
-        return {9, 6, 3, 6};
-    case Qt::DashDotDotLine:
-        return {9, 3, 3, 3, 3, 3};
-    default:
-        return {};
-    }
-}
+const Dashes dashesOfStyles[] = {
+    {Qt::DashLine, {3, 1}, {18, 6}},
+    {Qt::DotLine, {1, 1}, {3, 3}},
+    {Qt::DashDotLine, {3, 1, 1, 1}, {9, 6, 3, 6}},
+    {Qt::DashDotDotLine, {3, 1, 1, 1, 1, 1}, {9, 3, 3, 3, 3, 3}},
+};
 
+// Dashes and gaps in turn; none for other styles.
 std::vector<char> dashesOf(const QPen& pen)
 {
-    if (pen.width() <= 1)
-        return thinDashesOf(pen.style());
-    std::vector<char> dashes = dashesOf(pen.style());
-    for (char& dash : dashes)
-        dash = static_cast<char>(std::min(dash * static_cast<int>(pen.width()), 127));
-    return dashes;
+    constexpr uint longest = 255; // in X
+    for (const Dashes& entry : dashesOfStyles) {
+        if (entry.style != pen.style())
+            continue;
+        if (pen.width() <= 1)
+            return entry.thin;
+        std::vector<char> dashes = entry.wide;
+        for (char& dash : dashes)
+            dash = static_cast<char>(
+                std::min(static_cast<uint>(dash) * std::min(pen.width(), longest), longest));
+        return dashes;
+    }
+    return {};
 }
 
 bool isWhole(double value)
@@ -98,14 +85,30 @@ x11::Clip clipOf(const QRegion& region)
 QRect mirroredRect(int x, int y, int w, int h)
 {
     if (w < 0) {
-        w = 2 - w;
-        x -= w - 1;
+        w = difference(2, w);
+        x = difference(x, w - 1);
     }
     if (h < 0) {
-        h = 2 - h;
-        y -= h - 1;
+        h = difference(2, h);
+        y = difference(y, h - 1);
     }
     return QRect(x, y, w, h);
+}
+
+void cutToArray(const QPointArray& points, int* index, int* count)
+{
+    const int size = static_cast<int>(points.size());
+    *index = std::min(std::max(*index, 0), size);
+    const int rest = size - *index;
+    *count = *count < 0 ? rest : std::min(*count, rest);
+}
+
+QRect PainterData::deviceRect() const
+{
+    int width = 0;
+    int height = 0;
+    x11::drawableSize(drawable, &width, &height);
+    return QRect(0, 0, width, height);
 }
 
 void PainterData::needView()
@@ -113,10 +116,7 @@ void PainterData::needView()
     if (state.viewKnown || !device)
         return;
     state.viewKnown = true;
-    int width = 0;
-    int height = 0;
-    x11::drawableSize(drawable, &width, &height);
-    state.window = state.viewport = QRect(0, 0, width, height);
+    state.window = state.viewport = deviceRect();
 }
 
 void PainterData::changed()
@@ -189,8 +189,9 @@ x11::GcKey PainterData::brushKey(const QBrush& brush) const
         key.pattern = pixmap->handle();
         return key;
     }
-    key.fill = state.backgroundMode == Qt::OpaqueMode ? x11::FillWithOpaqueStipple : x11::FillWithStipple;
     key.pattern = pixmap ? pixmap->handle() : patternBitmap(brush.style());
+    if (key.pattern) // else a style that has none: a custom pattern that was never given, or no style at all
+        key.fill = state.backgroundMode == Qt::OpaqueMode ? x11::FillWithOpaqueStipple : x11::FillWithStipple;
     return key;
 }
 
@@ -201,10 +202,10 @@ const x11::GcSlot* PainterData::takePenGc()
     key.cap = capOf(state.pen.capStyle());
     key.join = joinOf(state.pen.joinStyle());
     key.dashes = dashesOf(state.pen);
-    if (!key.dashes.empty())
+    if (!key.dashes.empty()) {
         key.lineWidth = std::max(key.lineWidth, 1);
-    if (!key.dashes.empty())
         key.lineStyle = state.backgroundMode == Qt::OpaqueMode ? x11::LineDoubleDash : x11::LineOnOff;
+    }
     penGc.slot = x11::gcFor(key);
     penGc.version = penGc.slot->version;
     return penGc.slot;
@@ -236,10 +237,8 @@ QRect PainterData::mapRect(const QRect& rect) const
 
 std::vector<x11::Point> PainterData::mapPoints(const QPointArray& points, int index, int count) const
 {
-    const int size = static_cast<int>(points.size());
-    index = std::min(std::max(index, 0), size);
-    std::vector<x11::Point> result(
-        static_cast<size_t>(count < 0 ? size - index : std::min(size - index, count)));
+    cutToArray(points, &index, &count);
+    std::vector<x11::Point> result(static_cast<size_t>(count));
     const QPoint* const from = points.data() + index;
     std::transform(from, from + result.size(), result.begin(), [this](const QPoint& point) {
         const QPoint mapped = map(point);

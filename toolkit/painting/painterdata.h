@@ -61,6 +61,8 @@ struct PainterData {
     KeptGc penGc;
     KeptGc brushGc;
 
+    // All of the device; asks the server.
+    QRect deviceRect() const;
     // Before window and viewport are used: asks for the size of the device if they were not set.
     void needView();
     // After a change of the state. All but the pen's and brush's own properties touch both contexts.
@@ -92,8 +94,7 @@ struct PainterData {
     bool mapsRectsToRects() const { return transform != Transform::Other; }
 
     void fillDeviceRect(const QRect& rect, const x11::GcSlot* gc) const;
-    // The outline counts as inside.
-    // Fills a rectangle in the program's coordinates.
+    // These two take rectangles in the program's coordinates; of a turned one the outline counts as inside.
     void fillMappedRect(const QRect& rect, const x11::GcSlot* gc) const;
     void fillTurnedRect(const QRect& rect, const x11::GcSlot* gc) const;
     // Inside the outline of an arc in the program's coordinates, as far as it is closed.
@@ -101,6 +102,8 @@ struct PainterData {
     void fillPoints(const std::vector<x11::Point>& points, bool winding, const x11::GcSlot* gc) const;
 };
 
+// Cuts a part of an array to what there is. A negative count means all behind the index.
+void cutToArray(const QPointArray& points, int* index, int* count);
 // Negative extents lie on the other side of the corner.
 QRect mirroredRect(int x, int y, int w, int h);
 

@@ -51,7 +51,7 @@ const QPixmap* asPixmap(const QPaintDevice* device)
     return zeltk::PaintDeviceAccess::isWidget(device) ? nullptr : static_cast<const QPixmap*>(device);
 }
 
-// A copy through a mask: first what the mask leaves, then what it lets through.
+// Copies what the mask lets through.
 void blitMasked(x11::GcKey key, Qt::HANDLE to, int dx, int dy, const QPixmap* from, int sx, int sy, int w,
                 int h)
 {
@@ -109,6 +109,10 @@ void bitBlt(QPaintDevice* dst, int dx, int dy, const QPaintDevice* src, int sx, 
 {
     if (!src || !dst || !src->handle() || !dst->handle())
         return;
+    if (!zeltk::isRasterOp(rop)) {
+        qWarning("bitBlt: Invalid ROP code");
+        return;
+    }
     const QPixmap* pixmap = asPixmap(src);
     if (sw < 0 || sh < 0) {
         int width = 0;
@@ -119,8 +123,8 @@ void bitBlt(QPaintDevice* dst, int dx, int dy, const QPaintDevice* src, int sx, 
         } else if (!x11::drawableSize(src->handle(), &width, &height)) {
             return;
         }
-        sw = sw < 0 ? width - sx : sw;
-        sh = sh < 0 ? height - sy : sh;
+        sw = sw < 0 ? zeltk::difference(width, sx) : sw;
+        sh = sh < 0 ? zeltk::difference(height, sy) : sh;
     }
     if (sw <= 0 || sh <= 0)
         return;

@@ -3,6 +3,7 @@
 
 #include "painting/paintdeviceprivate.h"
 #include "painting/painterdata.h"
+#include "painting/rasterops.h"
 #include "painting/widgetpaintstate.h"
 #include "x11/connection.h"
 
@@ -268,7 +269,7 @@ Qt::RasterOp QPainter::rasterOp() const
 void QPainter::setRasterOp(RasterOp op)
 {
     warnIfInactive(this, "setRasterOp");
-    if (op < CopyROP || op > LastROP) {
+    if (!zeltk::isRasterOp(op)) {
         qWarning("QPainter::setRasterOp: Invalid ROP code");
         return;
     }

@@ -8,12 +8,9 @@ namespace
 
 QPointArray partOf(const QPointArray& points, int index, int count)
 {
-    const int size = static_cast<int>(points.size());
-    if (count < 0 || index + count > size)
-        count = size - index;
-    QPointArray part(count);
-    for (int i = 0; i < count; ++i)
-        part.setPoint(static_cast<uint>(i), points.point(static_cast<uint>(index + i)));
+    zeltk::cutToArray(points, &index, &count);
+    QPointArray part;
+    part.putPoints(0, count, points, index);
     return part;
 }
 

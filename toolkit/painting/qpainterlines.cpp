@@ -3,6 +3,8 @@
 
 #include "painting/painterdata.h"
 
+#include <algorithm>
+
 namespace x11 = zeltk::x11;
 
 // Points are one pixel, however wide the pen is.
@@ -51,7 +53,9 @@ void QPainter::drawLineSegments(const QPointArray& points, int index, int lineCo
 {
     if (!d->strokes())
         return;
-    const std::vector<x11::Point> mapped = d->mapPoints(points, index, lineCount < 0 ? -1 : 2 * lineCount);
+    const int mostLines = static_cast<int>(points.size() / 2);
+    const std::vector<x11::Point> mapped =
+        d->mapPoints(points, index, lineCount < 0 ? -1 : 2 * std::min(lineCount, mostLines));
     if (mapped.size() > 1)
         x11::drawSegments(d->drawable, d->forPen(), mapped);
 }
@@ -67,7 +71,7 @@ void QPainter::drawPolyline(const QPointArray& points, int index, int count)
 
 void QPainter::drawCubicBezier(const QPointArray& points, int index)
 {
-    if (static_cast<int>(points.size()) < index + 4) {
+    if (index < 0 || static_cast<int>(points.size()) - 4 < index) {
         qWarning("QPainter::drawCubicBezier: Cubic Bezier needs 4 control points");
         return;
     }

@@ -9,15 +9,29 @@
 
 namespace x11 = zeltk::x11;
 
+namespace
+{
+
+// Tiles go on to the left of their first one, too.
+int offsetInTile(int offset, int extent)
+{
+    const int rest = offset % extent;
+    return rest < 0 ? rest + extent : rest;
+}
+
+} // namespace
+
 void QPainter::drawPixmap(int x, int y, const QPixmap& pixmap, int sx, int sy, int sw, int sh)
 {
     if (!isActive() || pixmap.isNull())
         return;
+    const QPoint start(sx, sy);
+    const QRect rest(start, pixmap.rect().bottomRight());
     const QRect part =
-        QRect(sx, sy, sw < 0 ? pixmap.width() - sx : sw, sh < 0 ? pixmap.height() - sy : sh) & pixmap.rect();
+        QRect(start, QSize(sw < 0 ? rest.width() : sw, sh < 0 ? rest.height() : sh)) & pixmap.rect();
     if (part.isEmpty())
         return;
-    const QPoint at = d->map(QPoint(x + part.x() - sx, y + part.y() - sy));
+    const QPoint at = d->map(QPoint(x, y) + part.topLeft() - start);
     if (d->transform == zeltk::Transform::None || d->transform == zeltk::Transform::Translation) {
         zeltk::blit(d->baseKey(), d->drawable, d->bitmap, at.x(), at.y(), &pixmap, part.x(), part.y(),
                     part.width(), part.height(), false);
@@ -77,11 +91,10 @@ void QPainter::drawTiledPixmap(int x, int y, int w, int h, const QPixmap& pixmap
         d->fillDeviceRect(r, x11::gcFor(key));
         return;
     }
-    const int startX = sx % pixmap.width();
-    const int startY = sy % pixmap.height();
-    for (int py = y - startY; py < y + h; py += pixmap.height())
-        for (int px = x - startX; px < x + w; px += pixmap.width()) {
-            const QRect tile = QRect(px, py, pixmap.width(), pixmap.height()) & QRect(x, y, w, h);
-            drawPixmap(tile.x(), tile.y(), pixmap, tile.x() - px, tile.y() - py, tile.width(), tile.height());
+    const QRect area(x, y, w, h);
+    for (int py = y - offsetInTile(sy, pixmap.height()); py <= area.bottom(); py += pixmap.height())
+        for (int px = x - offsetInTile(sx, pixmap.width()); px <= area.right(); px += pixmap.width()) {
+            const QRect tile = QRect(QPoint(px, py), pixmap.size()) & area;
+            drawPixmap(tile.topLeft(), pixmap, QRect(tile.topLeft() - QPoint(px, py), tile.size()));
         }
 }

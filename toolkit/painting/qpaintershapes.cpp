@@ -9,6 +9,13 @@
 using zeltk::mirroredRect;
 namespace x11 = zeltk::x11;
 
+namespace
+{
+
+constexpr int rightAngle = 90 * 16;
+
+}
+
 void QPainter::drawRect(int x, int y, int w, int h)
 {
     if (!isActive() || w == 0 || h == 0)
@@ -159,6 +166,30 @@ void QPainter::drawChord(int x, int y, int w, int h, int startAngle, int angleLe
     drawLine(outline.point(0), outline.point(outline.size() - 1));
 }
 
+namespace
+{
+
+// How wide or high the ellipse of a corner is; even, so that it has a middle.
+int cornerExtent(int extent, int roundness)
+{
+    return static_cast<int>(Q_LLONG(extent - 1) * std::min(roundness, 99) / 200) * 2;
+}
+
+// The corners counter-clockwise, as the quarters of an ellipse are: places of the ellipses' rectangles.
+QPointArray roundOutline(const QPoint (&corners)[4], const QSize& ellipse)
+{
+    QPointArray outline;
+    for (int quarter = 0; quarter < 4; ++quarter) {
+        QPointArray arc;
+        arc.makeArc(corners[quarter].x(), corners[quarter].y(), ellipse.width(), ellipse.height(),
+                    quarter * rightAngle, rightAngle);
+        outline.putPoints(static_cast<int>(outline.size()), static_cast<int>(arc.size()), arc);
+    }
+    return outline;
+}
+
+} // namespace
+
 // xRound and yRound tell how round the corners are, from 0 to 99.
 void QPainter::drawRoundRect(int x, int y, int w, int h, int xRound, int yRound)
 {
@@ -169,26 +200,20 @@ void QPainter::drawRoundRect(int x, int y, int w, int h, int xRound, int yRound)
         return;
     }
     const QRect r = mirroredRect(x, y, w, h);
-    // The corners' ellipses; even, so that they have a middle.
-    const int rx = (r.width() - 1) * std::min(xRound, 99) / 200 * 2;
-    const int ry = (r.height() - 1) * std::min(yRound, 99) / 200 * 2;
+    const int rx = cornerExtent(r.width(), xRound);
+    const int ry = cornerExtent(r.height(), yRound);
+    const QSize ellipse(rx + 1, ry + 1);
     const int right = r.right() - rx;
     const int bottom = r.bottom() - ry;
     const QPoint corners[4] = {QPoint(right, r.top()), r.topLeft(), QPoint(r.left(), bottom),
                                QPoint(right, bottom)};
-    QPointArray outline;
-    for (int quarter = 0; quarter < 4; ++quarter) {
-        QPointArray arc;
-        arc.makeArc(corners[quarter].x(), corners[quarter].y(), rx + 1, ry + 1, quarter * 90 * 16, 90 * 16);
-        outline.putPoints(static_cast<int>(outline.size()), static_cast<int>(arc.size()), arc);
-    }
     if (!d->mapsRectsToRects()) {
-        drawPolygon(outline);
+        drawPolygon(roundOutline(corners, ellipse));
         return;
     }
     if (d->hasBrush()) {
         for (int quarter = 0; quarter < 4; ++quarter)
-            d->fillArc(QRect(corners[quarter], QSize(rx + 1, ry + 1)), quarter * 90 * 16, 90 * 16, false);
+            d->fillArc(QRect(corners[quarter], ellipse), quarter * rightAngle, rightAngle, false);
         fillRect(r.left() + rx / 2, r.top(), r.width() - rx, ry / 2, d->state.brush);
         fillRect(r.left() + rx / 2, r.bottom() + 1 - ry / 2, r.width() - rx, ry / 2, d->state.brush);
         fillRect(r.left(), r.top() + ry / 2, r.width(), r.height() - ry, d->state.brush);
@@ -196,7 +221,7 @@ void QPainter::drawRoundRect(int x, int y, int w, int h, int xRound, int yRound)
     if (!d->hasPen())
         return;
     for (int quarter = 0; quarter < 4; ++quarter)
-        drawArc(corners[quarter].x(), corners[quarter].y(), rx + 1, ry + 1, quarter * 90 * 16, 90 * 16);
+        drawArc(QRect(corners[quarter], ellipse), quarter * rightAngle, rightAngle);
     drawLine(r.left() + rx / 2, r.top(), r.right() - rx / 2, r.top());
     drawLine(r.left() + rx / 2, r.bottom(), r.right() - rx / 2, r.bottom());
     drawLine(r.left(), r.top() + ry / 2, r.left(), r.bottom() - ry / 2);

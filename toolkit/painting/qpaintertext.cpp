@@ -21,11 +21,13 @@ namespace
 {
 
 // Lines with the text: under it, over it, through it.
-void drawTextLines(const PainterData* d, const TextRun& run, const x11::GcSlot* gc)
+void drawTextLines(const PainterData* d, const TextRun& run)
 {
     const QFont& font = d->state.font;
     const QFontMetrics metrics(font);
-    const auto line = [&](int y) { d->fillMappedRect(QRect(run.x, y, run.width, metrics.lineWidth()), gc); };
+    const auto line = [&](int y) {
+        d->fillMappedRect(QRect(run.x, y, run.width, metrics.lineWidth()), x11::gcFor(d->baseKey()));
+    };
     if (font.underline())
         line(run.baseline + metrics.underlinePos());
     if (font.overline())
@@ -63,10 +65,13 @@ x11::TextPiece pieceOf(const PainterData* d, const TextRun& run)
     return piece;
 }
 
-// Text whose pixels are all or nothing, for operations that read what they draw upon.
-void drawMaskedText(PainterData* d, const TextRun& run)
+// Text whose pixels are all or nothing, for operations that read what they draw upon. The mask is no larger
+// than the device: the server has no room for that of a long text.
+void drawMaskedText(const PainterData* d, const TextRun& run)
 {
-    const QRect reach = d->mapRect(reachOf(QFontMetrics(d->state.font), run));
+    const QRect reach = d->mapRect(reachOf(QFontMetrics(d->state.font), run)) & d->deviceRect();
+    if (reach.isEmpty())
+        return;
     const x11::XId mask =
         x11::textMask(pieceOf(d, run), {reach.x(), reach.y(), reach.width(), reach.height()});
     x11::GcKey key = d->baseKey();
@@ -96,7 +101,7 @@ void drawRun(PainterData* d, const TextRun& run)
     } else {
         drawMaskedText(d, run);
     }
-    drawTextLines(d, run, x11::gcFor(d->baseKey()));
+    drawTextLines(d, run);
 }
 
 void drawMark(const PainterData* d, const TextMark& mark)

@@ -5,6 +5,19 @@
 #include <cmath>
 #include <cstdarg>
 
+namespace
+{
+
+// As many as the lines of a polygon in X; what would need more does not fit on any device.
+constexpr double mostSteps = 0xffff;
+
+int wholeSteps(double length)
+{
+    return static_cast<int>(std::min(std::max(length, 0.0), mostSteps));
+}
+
+} // namespace
+
 QPointArray::QPointArray(const QRect& rect, bool closed) : QMemArray<QPoint>(closed ? 5 : 4)
 {
     const int right = rect.right();
@@ -110,16 +123,16 @@ bool QPointArray::putPoints(int index, int count, const QPointArray& from, int f
 // One point for each pixel that the arc passes, roughly.
 void QPointArray::makeArc(int x, int y, int width, int height, int startAngle, int angleLength)
 {
-    const double a = (width - 1) / 2.0;
-    const double b = (height - 1) / 2.0;
+    const double a = (width - 1.0) / 2.0;
+    const double b = (height - 1.0) / 2.0;
     const double sixteenth = M_PI / 180.0 / 16.0;
     const double length = std::fabs(angleLength * sixteenth) * std::max(a, b);
-    const int steps = std::max(2, static_cast<int>(length) + 1);
+    const int steps = std::max(2, wholeSteps(length) + 1);
     resize(static_cast<uint>(steps + 1));
     for (int i = 0; i <= steps; ++i) {
         const double angle = (startAngle + angleLength * double(i) / steps) * sixteenth;
-        setPoint(static_cast<uint>(i), x + qRound(a + a * std::cos(angle)),
-                 y + qRound(b - b * std::sin(angle)));
+        setPoint(static_cast<uint>(i),
+                 QPoint(x, y) + QPoint(qRound(a + a * std::cos(angle)), qRound(b - b * std::sin(angle))));
     }
 }
 
@@ -136,8 +149,9 @@ QPointArray QPointArray::cubicBezier() const
     }
     double length = 0;
     for (uint i = 1; i < 4; ++i)
-        length += std::hypot(point(i).x() - point(i - 1).x(), point(i).y() - point(i - 1).y());
-    const int steps = std::max(2, static_cast<int>(length / 4));
+        length += std::hypot(static_cast<double>(point(i).x()) - point(i - 1).x(),
+                             static_cast<double>(point(i).y()) - point(i - 1).y());
+    const int steps = std::max(2, wholeSteps(length / 4));
     QPointArray curve(steps + 1);
     for (int i = 0; i <= steps; ++i) {
         const double t = double(i) / steps;

@@ -4,6 +4,11 @@
 namespace zeltk
 {
 
+bool isRasterOp(Qt::RasterOp op)
+{
+    return op >= Qt::CopyROP && op <= Qt::LastROP;
+}
+
 x11::Function functionOf(Qt::RasterOp op)
 {
     // In the order of Qt::RasterOp.

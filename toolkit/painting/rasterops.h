@@ -11,6 +11,8 @@ class QPaintDevice;
 namespace zeltk
 {
 
+// Programs may pass on any number as one.
+bool isRasterOp(Qt::RasterOp op);
 x11::Function functionOf(Qt::RasterOp op);
 
 // bitBlt with a given context; bitmaps show in its foreground and background.
