@@ -139,3 +139,14 @@ TEST_F(ControlDeletion, OfALineEditThatLosesTheFocus)
         {marked, [other](QLineEdit*) { other->setFocus(), settle(), xinput::typeKey(XK_Tab); }}};
     checkAll<QLineEdit>(cases, [this] { return newLineEdit(&window); });
 }
+
+TEST_F(ControlDeletion, OfALineEditWhoseTextIsTakenByTheClipboard)
+{
+    QLineEdit* edit = newLineEdit(&window);
+    edit->selectAll();
+    SignalRecorder recorder;
+    recorder.watch(QApplication::clipboard(), SIGNAL(dataChanged()));
+    recorder.whenever = [edit] { delete edit; };
+    edit->cut();
+    EXPECT_EQ(recorder.take(), "dataChanged");
+}
