@@ -161,6 +161,17 @@ TEST_F(WidgetDeletion, WhileItMovesToAnotherParent)
         [](Family& family) { family.outer->reparent(family.second, QPoint(0, 0), false); });
 }
 
+TEST_F(WidgetDeletion, WhileAnOpenPopupBecomesAWindow)
+{
+    check(
+        [](Family& family) {
+            showAll(family);
+            family.inner->setFocus();
+            family.second->reparent(nullptr, Qt::WType_Popup, QPoint(400, 100), true);
+        },
+        [](Family& family) { family.second->reparent(nullptr, 0, QPoint(400, 100), true); });
+}
+
 TEST_F(WidgetDeletion, WhileItsPlaceChanges)
 {
     check(showAll, [](Family& family) { family.outer->setGeometry(5, 5, 80, 60); });

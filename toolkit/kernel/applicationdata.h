@@ -59,7 +59,10 @@ bool sendSpontaneous(QObject* receiver, QEvent* event);
 // Hands out what has come from the X server; false if there was nothing.
 bool dispatchEvents(bool withInput);
 void setActive(QWidget* window);
+// Tells the one who loses the focus and the one who gets it. Null: nobody gets it.
 void moveFocus(QWidget* widget, QFocusEvent::Reason reason);
+// From the widget itself, whatever its proxy.
+void takeFocusFrom(QWidget* widget);
 // The one who gets the keys in this window.
 QWidget* keyReceiver(QWidget* window);
 // Calls who waits for the key in the window; false if nobody does.

@@ -60,6 +60,47 @@ int findMember(const QObject* owner, char code, const std::string& signature)
                               : meta->findSlot(signature.c_str(), true);
 }
 
+const char* withoutCode(const char* member)
+{
+    return *member ? member + 1 : member;
+}
+
+// The number of a signal in the form that SIGNAL() gives it; -1 after a warning, which names the two objects
+// if there is a receiver.
+int signalNumber(const char* function, const char* verb, const QObject* sender, const QObject* receiver,
+                 const std::string& signal)
+{
+    if (signal[0] != SignalCode) {
+        qWarning("QObject::%s: Use the SIGNAL macro to %s %s::%s", function, verb, sender->className(),
+                 signal.c_str());
+        return -1;
+    }
+    const int number = findMember(sender, SignalCode, signal.substr(1));
+    if (number < 0)
+        warnOfMember(function, "signal", sender, signal.substr(1));
+    if (number < 0 && receiver)
+        warnOfNames(function, sender, receiver);
+    return number;
+}
+
+// The same for what a signal is connected to.
+int memberNumber(const char* function, const QObject* sender, const QObject* receiver,
+                 const std::string& member)
+{
+    const char code = member[0];
+    if (code != SlotCode && code != SignalCode) {
+        qWarning("QObject::%s: Use the SLOT or SIGNAL macro to %s %s::%s", function, function,
+                 receiver->className(), member.c_str());
+        return -1;
+    }
+    const int number = findMember(receiver, code, member.substr(1));
+    if (number < 0) {
+        warnOfMember(function, code == SignalCode ? "signal" : "slot", receiver, member.substr(1));
+        warnOfNames(function, sender, receiver);
+    }
+    return number;
+}
+
 void addConnection(QObject* sender, int signal, const Connection& connection)
 {
     auto& lists = dataOf(sender)->signalLists;
@@ -173,47 +214,30 @@ bool QObject::connect(const QObject* sender, const char* signal, const QObject* 
 {
     if (!sender || !receiver || !signal || !member) {
         qWarning("QObject::connect: Cannot connect %s::%s to %s::%s", sender ? sender->className() : "(null)",
-                 signal ? signal + 1 : "(null)", receiver ? receiver->className() : "(null)",
-                 member ? member + 1 : "(null)");
+                 signal ? withoutCode(signal) : "(null)", receiver ? receiver->className() : "(null)",
+                 member ? withoutCode(member) : "(null)");
         return false;
     }
     const std::string signalText = zeltk::normalizedSignature(signal);
-    const std::string memberText = zeltk::normalizedSignature(member);
     if (signalText[0] == SlotCode) {
         qWarning("QObject::connect: Attempt to bind non-signal %s::%s", sender->className(),
                  signalText.c_str() + 1);
         return false;
     }
-    if (signalText[0] != SignalCode) {
-        qWarning("QObject::connect: Use the SIGNAL macro to bind %s::%s", sender->className(),
-                 signalText.c_str());
+    const int signalId = signalNumber("connect", "bind", sender, receiver, signalText);
+    if (signalId < 0)
         return false;
-    }
-    const int signalId = findMember(sender, SignalCode, signalText.substr(1));
-    if (signalId < 0) {
-        warnOfMember("connect", "signal", sender, signalText.substr(1));
-        warnOfNames("connect", sender, receiver);
+    const std::string memberText = zeltk::normalizedSignature(member);
+    const int memberId = memberNumber("connect", sender, receiver, memberText);
+    if (memberId < 0)
         return false;
-    }
-    const char code = memberText[0];
-    if (code != SlotCode && code != SignalCode) {
-        qWarning("QObject::connect: Use the SLOT or SIGNAL macro to connect %s::%s", receiver->className(),
-                 memberText.c_str());
-        return false;
-    }
-    const int memberId = findMember(receiver, code, memberText.substr(1));
-    if (memberId < 0) {
-        warnOfMember("connect", code == SignalCode ? "signal" : "slot", receiver, memberText.substr(1));
-        warnOfNames("connect", sender, receiver);
-        return false;
-    }
     if (!argumentsFit(signalText, memberText)) {
         qWarning("QObject::connect: Incompatible sender/receiver arguments\n\t%s::%s --> %s::%s",
                  sender->className(), signalText.c_str() + 1, receiver->className(), memberText.c_str() + 1);
         return false;
     }
     QObject* from = const_cast<QObject*>(sender);
-    addConnection(from, signalId, {const_cast<QObject*>(receiver), memberId, code == SignalCode});
+    addConnection(from, signalId, {const_cast<QObject*>(receiver), memberId, memberText[0] == SignalCode});
     ObjectAccess::notifyConnect(from, signalText.c_str());
     return true;
 }
@@ -225,41 +249,16 @@ bool QObject::disconnect(const QObject* sender, const char* signal, const QObjec
         qWarning("QObject::disconnect: Unexpected null parameter");
         return false;
     }
-    int signalId = -1;
-    std::string signalText;
-    if (signal) {
-        signalText = zeltk::normalizedSignature(signal);
-        if (signalText[0] != SignalCode) {
-            qWarning("QObject::disconnect: Use the SIGNAL macro to unbind %s::%s", sender->className(),
-                     signalText.c_str());
-            return false;
-        }
-        signalId = findMember(sender, SignalCode, signalText.substr(1));
-        if (signalId < 0) {
-            warnOfMember("disconnect", "signal", sender, signalText.substr(1));
-            return false;
-        }
-    }
-    int memberId = -1;
-    bool toSignal = false;
-    if (member) {
-        const std::string memberText = zeltk::normalizedSignature(member);
-        const char code = memberText[0];
-        if (code != SlotCode && code != SignalCode) {
-            qWarning("QObject::disconnect: Use the SLOT or SIGNAL macro to disconnect %s::%s",
-                     receiver->className(), memberText.c_str());
-            return false;
-        }
-        toSignal = code == SignalCode;
-        memberId = findMember(receiver, code, memberText.substr(1));
-        if (memberId < 0) {
-            warnOfMember("disconnect", toSignal ? "signal" : "slot", receiver, memberText.substr(1));
-            warnOfNames("disconnect", sender, receiver);
-            return false;
-        }
-    }
+    const std::string signalText = signal ? zeltk::normalizedSignature(signal) : "";
+    const int signalId = signal ? signalNumber("disconnect", "unbind", sender, nullptr, signalText) : -1;
+    if (signal && signalId < 0)
+        return false;
+    const std::string memberText = member ? zeltk::normalizedSignature(member) : "";
+    const int memberId = member ? memberNumber("disconnect", sender, receiver, memberText) : -1;
+    if (member && memberId < 0)
+        return false;
     QObject* from = const_cast<QObject*>(sender);
-    if (!cutAll(from, signalId, receiver, memberId, toSignal))
+    if (!cutAll(from, signalId, receiver, memberId, memberText[0] == SignalCode))
         return false;
     ObjectAccess::notifyDisconnect(from, signal ? signalText.c_str() : nullptr);
     return true;

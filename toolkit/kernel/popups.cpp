@@ -8,7 +8,6 @@
 
 #include <qguardedptr.h>
 
-#include <algorithm>
 #include <vector>
 
 namespace zeltk
@@ -30,7 +29,7 @@ void popupShown(QWidget* popup)
 void popupHidden(QWidget* popup)
 {
     ApplicationData* app = application();
-    app->popups.erase(std::remove(app->popups.begin(), app->popups.end(), popup), app->popups.end());
+    forget(&app->popups, popup);
     if (!app->popups.empty()) {
         moveFocus(app->popups.back()->focusWidget(), QFocusEvent::Popup);
         return;
@@ -64,8 +63,7 @@ void modalShown(QWidget* modal)
 
 void modalHidden(QWidget* modal)
 {
-    std::vector<QWidget*>& modals = application()->modals;
-    modals.erase(std::remove(modals.begin(), modals.end(), modal), modals.end());
+    forget(&application()->modals, modal);
 }
 
 // What belongs to the modal window, and popups, stay open to the user.

@@ -6,6 +6,7 @@
 #include <qpixmap.h>
 #include <qwidget.h>
 
+#include <algorithm>
 #include <vector>
 
 class QLayout;
@@ -91,6 +92,11 @@ inline WidgetData* dataOf(const QWidget* widget)
 std::vector<QWidget*> childWidgets(const QWidget* widget);
 // The same, for telling them something: who hears of it may delete any.
 std::vector<QGuardedPtr<QWidget>> guardedChildren(const QWidget* widget);
+// Takes the widget out of a list.
+inline void forget(std::vector<QWidget*>* list, QWidget* widget)
+{
+    list->erase(std::remove(list->begin(), list->end(), widget), list->end());
+}
 // All widgets, in the order of their creation.
 const std::vector<QWidget*>& everyWidget();
 
@@ -107,13 +113,15 @@ void applyCursor(QWidget* widget);
 void takeWindowOut(QWidget* widget, const QWidget* parent, Qt::WFlags flags);
 // Without a parent it becomes a window of its own.
 void putWindowIn(QWidget* widget, const QWidget* parent);
-void leaveTabOrder(QWidget* widget);
-void joinTabOrder(QWidget* widget);
 // Tell the window manager all it may know; once it knows, only what changed.
 void describeWindow(QWidget* window);
 void applySizeHints(QWidget* window);
 void applyWindowHints(QWidget* window);
 
+// Unmaps the window, which the window manager then no longer knows.
+void hideWindow(QWidget* widget);
+// A popup or modal widget keeps input from nobody any more.
+void leavePopupOrModal(QWidget* widget);
 // Enables or disables the widget and all inside it, as they and their ancestors say.
 void refreshEnabled(QWidget* widget);
 // Sends the paint event, wherever the widget's painters draw at the moment.

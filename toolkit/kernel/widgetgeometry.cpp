@@ -14,6 +14,20 @@ namespace x11 = zeltk::x11;
 namespace
 {
 
+// Where the widget begins in its frame; children and unmanaged windows have none.
+QPoint cornerInFrame(const WidgetData* data)
+{
+    return data->rect.topLeft() - data->frame.topLeft();
+}
+
+// The frame goes with it.
+void placeClient(WidgetData* data, const QRect& client)
+{
+    const QSize around = data->frame.size() - data->rect.size();
+    data->frame = QRect(client.topLeft() - cornerInFrame(data), client.size() + around);
+    data->rect = client;
+}
+
 // Tells a visible widget at once; a hidden one hears of it before it is shown, at the latest.
 void tellGeometry(QWidget* widget, const QPoint& oldPos, const QSize& oldSize)
 {
@@ -85,10 +99,7 @@ void changeGeometry(QWidget* widget, const QPoint& pos, QSize size)
     const QSize oldSize = widget->size();
     if (pos == oldPos && size == oldSize)
         return;
-    const QPoint inFrame = data->rect.topLeft() - data->frame.topLeft();
-    const QSize around = data->frame.size() - data->rect.size();
-    data->rect = QRect(pos + inFrame, size);
-    data->frame = QRect(pos, size + around);
+    placeClient(data, QRect(pos + cornerInFrame(data), size));
     resizeWindow(widget, QRect(pos, size), pos != oldPos, size != oldSize);
     tellGeometry(widget, oldPos, oldSize);
 }
@@ -106,10 +117,7 @@ void windowConfigured(QWidget* window, const QRect& rect)
         return;
     const QPoint oldPos = window->pos();
     const QSize oldSize = window->size();
-    const QPoint inFrame = data->rect.topLeft() - data->frame.topLeft();
-    const QSize around = data->frame.size() - data->rect.size();
-    data->rect = rect;
-    data->frame = QRect(rect.topLeft() - inFrame, rect.size() + around);
+    placeClient(data, rect);
     tellGeometry(window, oldPos, oldSize);
 }
 
@@ -172,8 +180,7 @@ void QWidget::setGeometry(int x, int y, int width, int height)
 {
     w->placed = true;
     setWState(WState_Resized);
-    const QPoint inFrame = isTopLevel() ? w->rect.topLeft() - w->frame.topLeft() : QPoint(0, 0);
-    changeGeometry(this, QPoint(x, y) - inFrame, QSize(width, height));
+    changeGeometry(this, QPoint(x, y) - cornerInFrame(w), QSize(width, height));
 }
 
 void QWidget::setGeometry(const QRect& rect)

@@ -19,6 +19,17 @@ bool moveFocusByKey(QWidget* widget, bool next)
     return moved;
 }
 
+// Tab and Shift+Tab do.
+bool movesFocus(QWidget* widget, const QKeyEvent* key)
+{
+    if (key->state() & (Qt::ControlButton | Qt::AltButton))
+        return false;
+    const bool tab = key->key() == Qt::Key_Tab;
+    if (key->key() == Qt::Key_Backtab || (tab && (key->state() & Qt::ShiftButton)))
+        return moveFocusByKey(widget, false);
+    return tab && moveFocusByKey(widget, true);
+}
+
 // What concerns a window or the program concerns all inside.
 void tellChildren(QWidget* widget, QEvent::Type type, bool visibleOnly)
 {
@@ -71,19 +82,11 @@ bool QWidget::event(QEvent* event)
     case QEvent::Wheel:
         wheelEvent(static_cast<QWheelEvent*>(event));
         return static_cast<QWheelEvent*>(event)->isAccepted();
-    case QEvent::KeyPress: {
-        QKeyEvent* key = static_cast<QKeyEvent*>(event);
-        bool moved = false;
-        if (!(key->state() & ControlButton) && !(key->state() & AltButton)) {
-            if (key->key() == Key_Backtab || (key->key() == Key_Tab && (key->state() & ShiftButton)))
-                moved = moveFocusByKey(this, false);
-            else if (key->key() == Key_Tab)
-                moved = moveFocusByKey(this, true);
-        }
-        if (!moved)
-            keyPressEvent(key);
-        return moved || key->isAccepted();
-    }
+    case QEvent::KeyPress:
+        if (movesFocus(this, static_cast<QKeyEvent*>(event)) || !alive)
+            return true;
+        keyPressEvent(static_cast<QKeyEvent*>(event));
+        return static_cast<QKeyEvent*>(event)->isAccepted();
     case QEvent::KeyRelease:
         keyReleaseEvent(static_cast<QKeyEvent*>(event));
         return static_cast<QKeyEvent*>(event)->isAccepted();

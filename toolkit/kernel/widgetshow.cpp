@@ -1,6 +1,5 @@
-// QWidget: showing, hiding, closing, and moving to another parent.
+// QWidget: showing, hiding and closing.
 #include "kernel/applicationprivate.h"
-#include "kernel/dispatch.h"
 #include "kernel/widgetdata.h"
 #include "x11/window.h"
 
@@ -101,9 +100,14 @@ void showWindow(QWidget* widget)
         zeltk::modalShown(widget);
 }
 
+} // namespace
+
+namespace zeltk
+{
+
 void hideWindow(QWidget* widget)
 {
-    WidgetData* data = zeltk::dataOf(widget);
+    WidgetData* data = dataOf(widget);
     if (!data->mapped)
         return;
     data->mapped = false;
@@ -118,21 +122,12 @@ void hideWindow(QWidget* widget)
 void leavePopupOrModal(QWidget* widget)
 {
     if (widget->isPopup())
-        zeltk::popupHidden(widget);
+        popupHidden(widget);
     else if (widget->isTopLevel() && widget->isModal())
-        zeltk::modalHidden(widget);
+        modalHidden(widget);
 }
 
-// What was visible inside a widget that leaves its place.
-void forgetVisible(QWidget* widget)
-{
-    WidgetAccess::clearState(widget, Qt::WState_Visible);
-    for (QWidget* child : zeltk::childWidgets(widget))
-        if (!child->isTopLevel())
-            forgetVisible(child);
-}
-
-} // namespace
+} // namespace zeltk
 
 void QWidget::show()
 {
@@ -172,17 +167,17 @@ void QWidget::hide()
     if (!isVisible()) {
         if (!wasHidden && !isTopLevel())
             sendPlain(this, QEvent::HideToParent);
-        hideWindow(this);
+        zeltk::hideWindow(this);
         return;
     }
     const QGuardedPtr<QWidget> alive(this);
     clearWState(WState_Visible);
-    leavePopupOrModal(this);
+    zeltk::leavePopupOrModal(this);
     if (alive)
         zeltk::widgetHidden(this);
     if (!alive)
         return;
-    hideWindow(this);
+    zeltk::hideWindow(this);
     QHideEvent event;
     QApplication::sendEvent(this, &event);
     if (alive)
@@ -263,60 +258,4 @@ bool QWidget::close(bool alsoDelete)
     if (alsoDelete && alive)
         delete this;
     return true;
-}
-
-// The server's window lives on, so that all inside it come along; only its place changes. Focus and Tab order
-// are of a window, and stay where that stays the same. If the parent dies meanwhile it remains a hidden
-// window.
-void QWidget::reparent(QWidget* parent, WFlags f, const QPoint& pos, bool showIt)
-{
-    if (zeltk::isInside(parent, this)) {
-        qWarning("QWidget::reparent: %s cannot be inside itself", name());
-        return;
-    }
-    const QSize keptSize = size();
-    const bool leavesWindow =
-        isTopLevel() || !parent || (f & WType_Mask) || parent->topLevelWidget() != topLevelWidget();
-    if (isVisible()) {
-        clearWState(WState_Visible);
-        leavePopupOrModal(this);
-        for (QWidget* child : zeltk::childWidgets(this))
-            if (!child->isTopLevel())
-                forgetVisible(child);
-    }
-    const QGuardedPtr<QWidget> alive(this);
-    const QGuardedPtr<QWidget> newParent(parent);
-    zeltk::widgetLeavesPlace(this, leavesWindow);
-    if (!alive)
-        return;
-    hideWindow(this);
-    zeltk::takeWindowOut(this, newParent, f);
-    if (QObject* old = this->parent())
-        old->removeChild(this);
-    if (newParent && alive)
-        newParent->insertChild(this);
-    if (!alive)
-        return;
-    zeltk::putWindowIn(this, newParent);
-    if (!newParent || isTopLevel() || w->selfHidden || newParent->isVisible())
-        setWState(WState_ForceHide);
-    else
-        clearWState(WState_ForceHide);
-    if (leavesWindow)
-        zeltk::joinTabOrder(this);
-    zeltk::refreshEnabled(this);
-    if (!alive)
-        return;
-    zeltk::inheritLook(this);
-    if (alive)
-        setGeometry(pos.x(), pos.y(), keptSize.width(), keptSize.height());
-    if (showIt && alive && (newParent || !parent))
-        show();
-    if (alive)
-        sendPlain(this, QEvent::Reparent);
-}
-
-void QWidget::reparent(QWidget* parent, const QPoint& pos, bool showIt)
-{
-    reparent(parent, getWFlags() & ~static_cast<WFlags>(WType_Mask), pos, showIt);
 }
