@@ -162,6 +162,16 @@ TEST(Connect, NullIsAWarning)
     EXPECT_EQ(takeMessages(), "QObject::connect: Cannot connect Sender::(null) to Receiver::(null)\n");
 }
 
+TEST(Connect, NothingIsNoSignal)
+{
+    Sender sender;
+    EXPECT_FALSE(sender.hasReceivers(nullptr));
+    EXPECT_FALSE(QObject::connect(&sender, "", nullptr, ""));
+    EXPECT_FALSE(QObject::connect(&sender, "", &sender, ""));
+    EXPECT_EQ(takeMessages(), "QObject::connect: Cannot connect Sender:: to (null)::\n"
+                              "QObject::connect: Use the SIGNAL macro to bind Sender::\n");
+}
+
 TEST(Connect, BlanksInSignaturesDoNotCount)
 {
     Sender sender;

@@ -156,6 +156,15 @@ TEST_F(Row, WidgetIsNotItsOwnChild)
     EXPECT_NE(takeMessages(), "");
 }
 
+TEST_F(Row, NothingIsNoChild)
+{
+    row->add(nullptr);
+    row->addLayout(nullptr);
+    EXPECT_EQ(takeMessages(), "QLayout::add: A null widget cannot be put into layout \"row\"\n"
+                              "QBoxLayout::insertLayout: A null layout cannot be put into layout \"row\"\n");
+    EXPECT_TRUE(row->activate());
+}
+
 TEST_F(Row, NewChildIsAddedByItselfIfWished)
 {
     row->setAutoAdd(true);

@@ -187,6 +187,16 @@ TEST(MetaObject, ClassesAreFoundByName)
     EXPECT_EQ(QMetaObject::metaObject("Nobody"), nullptr);
 }
 
+TEST(MetaObject, NothingIsNoName)
+{
+    EXPECT_EQ(QMetaObject::metaObject(nullptr), nullptr);
+    EXPECT_FALSE(QMetaObject::hasMetaObject(nullptr));
+    QMetaObject* const meta = QObject::staticMetaObject();
+    EXPECT_EQ(meta->findSlot(nullptr), -1);
+    EXPECT_EQ(meta->findSignal(nullptr), -1);
+    EXPECT_FALSE(meta->inherits(nullptr));
+}
+
 TEST(MetaObject, TheNameIsTheOneProperty)
 {
     EXPECT_EQ(Base::staticMetaObject()->numProperties(), 0);

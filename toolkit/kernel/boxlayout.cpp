@@ -203,6 +203,10 @@ void QBoxLayout::insertWidget(int index, QWidget* widget, int stretch, int align
 
 void QBoxLayout::insertLayout(int index, QLayout* layout, int stretch)
 {
+    if (!layout) {
+        qWarning("QBoxLayout::insertLayout: A null layout cannot be put into layout \"%s\"", name());
+        return;
+    }
     addChildLayout(layout);
     if (layout->parent() != this)
         return;

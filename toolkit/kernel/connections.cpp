@@ -270,6 +270,8 @@ void QObject::disconnectNotify(const char*) {}
 
 QConnectionList* QObject::receivers(const char* signal) const
 {
+    if (!signal)
+        return nullptr;
     return receivers(metaObject()->findSignal(zeltk::normalizedSignature(signal).c_str(), true));
 }
 

@@ -191,6 +191,10 @@ bool QLayout::activate()
 
 void QLayout::add(QWidget* widget)
 {
+    if (!widget) {
+        qWarning("QLayout::add: A null widget cannot be put into layout \"%s\"", name());
+        return;
+    }
     addItem(new QWidgetItem(widget));
 }
 

@@ -135,13 +135,13 @@ QStrList QMetaObject::signalNames(bool super) const
 
 QMetaObject* QMetaObject::metaObject(const char* className)
 {
-    const auto found = classes().find(className);
+    const auto found = classes().find(className ? className : "");
     return found == classes().end() ? nullptr : found->second();
 }
 
 bool QMetaObject::hasMetaObject(const char* className)
 {
-    return classes().count(className) > 0;
+    return className && classes().count(className) > 0;
 }
 
 QMetaObjectCleanUp::QMetaObjectCleanUp(const char* className, QMetaObject* (*staticMetaObject)())
