@@ -110,6 +110,29 @@ TEST(PtrListIterator, GoesBothWaysAndByMoreThanOne)
     EXPECT_EQ(&numbers[0], each.toFirst());
 }
 
+TEST(PtrListIterator, EndsWhenItGoesTooFar)
+{
+    QPtrList<int> list;
+    int one = 1, two = 2;
+    list.append(&one);
+    list.append(&two);
+    for (const uint steps : {2u, 0x7fffffffu, 0x80000000u, 0xffffffffu}) {
+        QPtrListIterator<int> iterator(list);
+        ++iterator;
+        EXPECT_FALSE(iterator += steps) << steps;
+        EXPECT_FALSE(iterator -= 1) << "and stays there";
+        iterator.toLast();
+        EXPECT_FALSE(iterator -= steps) << steps;
+    }
+    list.clear();
+    QPtrListIterator<int> nothing(list);
+    EXPECT_FALSE(nothing += 1);
+    EXPECT_FALSE(nothing -= 0);
+    EXPECT_FALSE(++nothing);
+    EXPECT_FALSE(nothing.toLast());
+    EXPECT_FALSE(nothing());
+}
+
 TEST(MemArray, IsSharedUntilDuplicated)
 {
     QMemArray<int> array(3);
@@ -128,6 +151,26 @@ TEST(MemArray, IsSharedUntilDuplicated)
     for (QMemArray<int>::Iterator it = array.begin(); it != array.end(); ++it)
         sum += *it;
     EXPECT_EQ(15, sum);
+}
+
+TEST(MemArray, IsFilledWithAnElementOfItsOwn)
+{
+    QMemArray<int> array(2);
+    array[1] = 7;
+    EXPECT_TRUE(array.fill(array[1], 100000));
+    EXPECT_EQ(100000, array.contains(7));
+}
+
+// So many that their bytes cannot be counted.
+TEST(MemArray, CannotHaveTooManyElements)
+{
+    QMemArray<double> array(2);
+    array[1] = 1.5;
+    EXPECT_FALSE(array.resize(0x20000001u));
+    EXPECT_FALSE(array.fill(2.5, 0x7fffffff));
+    EXPECT_EQ(2u, array.size());
+    EXPECT_EQ(1.5, array[1]);
+    EXPECT_EQ(0u, QMemArray<double>(-1).size());
 }
 
 TEST(ValueList, HasTheNamesOfTheStandardLibraryToo)

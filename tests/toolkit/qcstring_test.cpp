@@ -184,3 +184,17 @@ TEST(Rounding, HalvesGoUp)
     for (const auto& each : cases)
         EXPECT_EQ(each.rounded, qRound(each.value)) << each.value;
 }
+
+TEST(CString, MayChangeByPartsOfItself)
+{
+    const char longText[] = "the beginning of a text and its end";
+    QCString text(longText);
+    EXPECT_STREQ("beginning of a text and its end beginning of a text and its end",
+                 text.replace(0, 3, text.data() + 4));
+    text = longText;
+    EXPECT_STREQ("its endthe beginning of a text and its end", text.insert(0, text.data() + 28));
+    text = longText;
+    EXPECT_STREQ("the beginning of a text and its endits end", text += text.data() + 28);
+    text = text.data() + 28;
+    EXPECT_STREQ("its endits end", text);
+}

@@ -6,6 +6,7 @@
 #include <qstring.h>
 
 #include <algorithm>
+#include <limits>
 #include <vector>
 
 namespace
@@ -246,6 +247,16 @@ TEST(String, Searching)
     EXPECT_TRUE(text.endsWith("BC"));
     EXPECT_FALSE(text.endsWith("bc"));
     EXPECT_FALSE(QString("c").endsWith("bc"));
+}
+
+TEST(String, NothingIsFoundBehindTheEnd)
+{
+    constexpr int most = std::numeric_limits<int>::max();
+    EXPECT_EQ(-1, QString("abc").find("c", most));
+    EXPECT_EQ(-1, QString("abc").find('c', 4));
+    EXPECT_EQ(-1, QString("abc").findRev("c", most));
+    EXPECT_EQ(2, QString("abc").find("c", -1));
+    EXPECT_EQ(-1, QString("abc").find("c", -most - 1));
 }
 
 TEST(String, CountingWhatItContains)

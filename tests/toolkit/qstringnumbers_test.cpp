@@ -6,8 +6,8 @@
 #include <qstring.h>
 
 #include <climits>
-#include <limits>
 #include <clocale>
+#include <limits>
 
 TEST(StringNumbers, AreWritten)
 {
@@ -175,4 +175,19 @@ TEST(StringNumbers, DoNotFollowTheLocale)
     EXPECT_EQ("1.5", QString::number(1.5));
     EXPECT_DOUBLE_EQ(1.5, QString("1.5").toDouble());
     setlocale(LC_NUMERIC, before.c_str());
+}
+
+TEST(StringNumbers, OfBasesAndFormatsThatDoNotExistAreTextAllTheSame)
+{
+    for (const int base : {-10, 0, 1, 37, 99}) {
+        EXPECT_EQ("5", QString::number(5, base)) << base;
+        EXPECT_EQ("4000000000", QString::number(4000000000u, base)) << base;
+        bool good = true;
+        EXPECT_EQ(0, QString("x").toInt(&good, base)) << base;
+        EXPECT_FALSE(good) << base;
+    }
+    for (const char format : {'s', 'n', 'd', 'x', '%', '\0'})
+        EXPECT_EQ("1.5", QString::number(1.5, format)) << format;
+    EXPECT_EQ(1002u, QString::number(1.5, 'f', 1000).length());
+    EXPECT_EQ(10002u, QString::number(1.5, 'f', std::numeric_limits<int>::max()).length());
 }

@@ -56,14 +56,19 @@ public:
     uint count() const { return size(); }
     bool isEmpty() const { return size() == 0; }
     bool isNull() const { return raw.isNull(); }
-    bool resize(uint size) { return raw.resize(size * (uint)sizeof(type)); }
+    //! New elements are 0 in all bytes. False, and nothing changes, if there is no memory for them.
+    bool resize(uint size)
+    {
+        return size <= 0xffffffffu / (uint)sizeof(type) && raw.resize(size * (uint)sizeof(type));
+    }
     bool truncate(uint position) { return resize(position); }
     bool fill(const type& value, int newSize = -1)
     {
-        if (newSize >= 0)
-            resize((uint)newSize);
+        const type filling(value); // which may be an element that resize() moves
+        if (newSize >= 0 && !resize((uint)newSize))
+            return false;
         for (uint i = 0; i < size(); ++i)
-            data()[i] = value;
+            data()[i] = filling;
         return true;
     }
     virtual void detach() { raw.detach(); }

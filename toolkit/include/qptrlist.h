@@ -161,8 +161,11 @@ public:
     }
     type* operator++() { return (type*)move(index() < 0 ? -1 : index() + 1); }
     type* operator--() { return (type*)move(index() < 0 ? -1 : index() - 1); }
-    type* operator+=(uint steps) { return (type*)move(index() < 0 ? -1 : index() + (int)steps); }
-    type* operator-=(uint steps) { return (type*)move(index() < 0 ? -1 : index() - (int)steps); }
+    type* operator+=(uint steps) { return (type*)move(has(steps) ? index() + (int)steps : -1); }
+    type* operator-=(uint steps) { return (type*)move(has(steps) ? index() - (int)steps : -1); }
+
+private:
+    bool has(uint steps) const { return index() >= 0 && steps < count(); }
 };
 
 #endif

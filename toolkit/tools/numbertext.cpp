@@ -1,5 +1,6 @@
 #include "tools/numbertext.h"
 
+#include <algorithm>
 #include <cctype>
 #include <cstdio>
 #include <cstdlib>
@@ -12,10 +13,18 @@ namespace zeltk
 namespace
 {
 
+// No number needs more; printf takes minutes for what an int can ask for, and then fails.
+constexpr int mostDigits = 10000;
+
 locale_t plainLocale()
 {
     static const locale_t locale = newlocale(LC_ALL_MASK, "C", nullptr);
     return locale;
+}
+
+int validBase(int base)
+{
+    return base < 2 || base > 36 ? 10 : base;
 }
 
 bool isBlank(char c)
@@ -37,6 +46,7 @@ int digitValue(char c)
 // Sign and magnitude of the text; false if it is no number or too long for 64 bits.
 bool parseMagnitude(const std::string& text, int base, bool* negative, Q_ULLONG* magnitude)
 {
+    base = validBase(base);
     size_t begin = 0, end = text.size();
     while (begin < end && isBlank(text[begin]))
         ++begin;
@@ -65,11 +75,11 @@ bool parseMagnitude(const std::string& text, int base, bool* negative, Q_ULLONG*
 
 std::string numberText(Q_ULLONG number, int base)
 {
+    const auto valid = static_cast<Q_ULLONG>(validBase(base));
     std::string text;
     do {
-        text.insert(text.begin(),
-                    "0123456789abcdefghijklmnopqrstuvwxyz"[number % static_cast<Q_ULLONG>(base)]);
-        number /= static_cast<Q_ULLONG>(base);
+        text.insert(text.begin(), "0123456789abcdefghijklmnopqrstuvwxyz"[number % valid]);
+        number /= valid;
     } while (number);
     return text;
 }
@@ -83,9 +93,12 @@ std::string numberText(Q_LLONG number, int base)
 
 std::string numberText(double number, char format, int precision)
 {
-    const char pattern[] = {'%', '.', '*', format, '\0'};
+    // Others would make printf look for arguments of other types.
+    const bool valid =
+        format == 'e' || format == 'E' || format == 'f' || format == 'F' || format == 'g' || format == 'G';
+    const char pattern[] = {'%', '.', '*', valid ? format : 'g', '\0'};
     const locale_t before = uselocale(plainLocale());
-    const int digits = precision < 0 ? 6 : precision;
+    const int digits = precision < 0 ? 6 : std::min(precision, mostDigits);
     std::string text(static_cast<size_t>(std::snprintf(nullptr, 0, pattern, digits, number)), '\0');
     std::snprintf(&text[0], text.size() + 1, pattern, digits, number);
     uselocale(before);

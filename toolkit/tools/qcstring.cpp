@@ -11,7 +11,6 @@
 #include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
-#include <limits>
 #include <string>
 
 namespace
@@ -33,27 +32,6 @@ std::string folded(std::string text, bool caseSensitive)
 bool isBlank(char c)
 {
     return std::isspace(static_cast<uchar>(c)) != 0;
-}
-
-template <typename Number>
-Number parsed(const QCString& text, bool* ok)
-{
-    Q_LLONG number = 0;
-    const bool good = zeltk::parseNumber(textOf(text), 10, std::numeric_limits<Number>::min(),
-                                         std::numeric_limits<Number>::max(), &number);
-    if (ok)
-        *ok = good;
-    return static_cast<Number>(number);
-}
-
-template <typename Number>
-Number parsedUnsigned(const QCString& text, bool* ok)
-{
-    Q_ULLONG number = 0;
-    const bool good = zeltk::parseNumber(textOf(text), 10, std::numeric_limits<Number>::max(), &number);
-    if (ok)
-        *ok = good;
-    return static_cast<Number>(number);
 }
 
 } // namespace
@@ -267,8 +245,9 @@ QCString& QCString::remove(uint index, uint count)
 
 QCString& QCString::replace(uint index, uint count, const char* text)
 {
+    const QCString inserted(text); // the text may be a part of this one
     remove(index, count);
-    return insert(index, text);
+    return insert(index, inserted);
 }
 
 QCString& QCString::replace(const char* before, const char* after)
@@ -297,32 +276,32 @@ QCString& QCString::replace(char before, char after)
 
 short QCString::toShort(bool* ok) const
 {
-    return parsed<short>(*this, ok);
+    return zeltk::parsed<short>(textOf(*this), 10, ok);
 }
 
 ushort QCString::toUShort(bool* ok) const
 {
-    return parsedUnsigned<ushort>(*this, ok);
+    return zeltk::parsed<ushort>(textOf(*this), 10, ok);
 }
 
 int QCString::toInt(bool* ok) const
 {
-    return parsed<int>(*this, ok);
+    return zeltk::parsed<int>(textOf(*this), 10, ok);
 }
 
 uint QCString::toUInt(bool* ok) const
 {
-    return parsedUnsigned<uint>(*this, ok);
+    return zeltk::parsed<uint>(textOf(*this), 10, ok);
 }
 
 long QCString::toLong(bool* ok) const
 {
-    return parsed<long>(*this, ok);
+    return zeltk::parsed<long>(textOf(*this), 10, ok);
 }
 
 ulong QCString::toULong(bool* ok) const
 {
-    return parsedUnsigned<ulong>(*this, ok);
+    return zeltk::parsed<ulong>(textOf(*this), 10, ok);
 }
 
 float QCString::toFloat(bool* ok) const

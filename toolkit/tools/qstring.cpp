@@ -191,12 +191,12 @@ QString& QString::fill(QChar c, int newLength)
 
 QString QString::left(uint count) const
 {
-    return count >= length() ? *this : isEmpty() ? QString() : QString(unicode(), count);
+    return count >= length() ? *this : QString(unicode(), count);
 }
 
 QString QString::right(uint count) const
 {
-    return count >= length() ? *this : isEmpty() ? QString() : QString(unicode() + (length() - count), count);
+    return count >= length() ? *this : QString(unicode() + (length() - count), count);
 }
 
 QString QString::mid(uint index, uint count) const

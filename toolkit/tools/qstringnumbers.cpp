@@ -5,7 +5,6 @@
 #include "tools/unicode.h"
 
 #include <array>
-#include <limits>
 
 namespace
 {
@@ -14,7 +13,7 @@ QString padded(const QString& text, int fieldWidth)
 {
     if (fieldWidth > 0)
         return text.rightJustify(static_cast<uint>(fieldWidth));
-    return text.leftJustify(static_cast<uint>(-fieldWidth));
+    return text.leftJustify(0 - static_cast<uint>(fieldWidth));
 }
 
 // The digit behind the percent sign at that place, -1 if there is none.
@@ -77,28 +76,6 @@ QString withArguments(const QString& pattern, const std::array<const QString*, c
     return zeltk::fromUtf16(result);
 }
 
-template <typename Number>
-Number parsed(const QString& text, bool* ok, int base)
-{
-    Q_LLONG number = 0;
-    const bool good = zeltk::parseNumber(zeltk::toUtf8(text), base, std::numeric_limits<Number>::min(),
-                                         std::numeric_limits<Number>::max(), &number);
-    if (ok)
-        *ok = good;
-    return static_cast<Number>(number);
-}
-
-template <typename Number>
-Number parsedUnsigned(const QString& text, bool* ok, int base)
-{
-    Q_ULLONG number = 0;
-    const bool good =
-        zeltk::parseNumber(zeltk::toUtf8(text), base, std::numeric_limits<Number>::max(), &number);
-    if (ok)
-        *ok = good;
-    return static_cast<Number>(number);
-}
-
 } // namespace
 
 QString QString::arg(Q_LLONG a, int fieldWidth, int base) const
@@ -153,42 +130,42 @@ QString QString::arg(const QString& a1, const QString& a2, const QString& a3, co
 
 short QString::toShort(bool* ok, int base) const
 {
-    return parsed<short>(*this, ok, base);
+    return zeltk::parsed<short>(zeltk::toUtf8(*this), base, ok);
 }
 
 ushort QString::toUShort(bool* ok, int base) const
 {
-    return parsedUnsigned<ushort>(*this, ok, base);
+    return zeltk::parsed<ushort>(zeltk::toUtf8(*this), base, ok);
 }
 
 int QString::toInt(bool* ok, int base) const
 {
-    return parsed<int>(*this, ok, base);
+    return zeltk::parsed<int>(zeltk::toUtf8(*this), base, ok);
 }
 
 uint QString::toUInt(bool* ok, int base) const
 {
-    return parsedUnsigned<uint>(*this, ok, base);
+    return zeltk::parsed<uint>(zeltk::toUtf8(*this), base, ok);
 }
 
 long QString::toLong(bool* ok, int base) const
 {
-    return parsed<long>(*this, ok, base);
+    return zeltk::parsed<long>(zeltk::toUtf8(*this), base, ok);
 }
 
 ulong QString::toULong(bool* ok, int base) const
 {
-    return parsedUnsigned<ulong>(*this, ok, base);
+    return zeltk::parsed<ulong>(zeltk::toUtf8(*this), base, ok);
 }
 
 Q_LLONG QString::toLongLong(bool* ok, int base) const
 {
-    return parsed<Q_LLONG>(*this, ok, base);
+    return zeltk::parsed<Q_LLONG>(zeltk::toUtf8(*this), base, ok);
 }
 
 Q_ULLONG QString::toULongLong(bool* ok, int base) const
 {
-    return parsedUnsigned<Q_ULLONG>(*this, ok, base);
+    return zeltk::parsed<Q_ULLONG>(zeltk::toUtf8(*this), base, ok);
 }
 
 float QString::toFloat(bool* ok) const

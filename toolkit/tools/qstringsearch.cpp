@@ -34,7 +34,7 @@ int QString::find(const QString& text, int index, bool caseSensitive) const
         index += own;
     if (index < 0)
         return -1;
-    for (; index + other <= own; ++index)
+    for (; index <= own - other; ++index)
         if (sameAt(*this, static_cast<uint>(index), text, caseSensitive))
             return index;
     return -1;
@@ -82,25 +82,37 @@ bool QString::endsWith(const QString& text, bool caseSensitive) const
     return text.length() <= length() && sameAt(*this, length() - text.length(), text, caseSensitive);
 }
 
+namespace
+{
+
+struct Field {
+    int begin;
+    int length;
+};
+
+std::vector<Field> fieldsOf(const QString& text, const QString& separator, int flags)
+{
+    const bool caseSensitive = !(flags & QString::SectionCaseInsensitiveSeps);
+    const int separatorLength = static_cast<int>(separator.length());
+    std::vector<Field> fields;
+    for (int begin = 0;;) {
+        const int found = separatorLength ? text.find(separator, begin, caseSensitive) : -1;
+        const int stop = found < 0 ? static_cast<int>(text.length()) : found;
+        if (!(flags & QString::SectionSkipEmpty) || stop > begin)
+            fields.push_back({begin, stop - begin});
+        if (found < 0)
+            return fields;
+        begin = found + separatorLength;
+    }
+}
+
+} // namespace
+
 // The fields between separators, counted from 0, or from -1 at the end backwards.
 QString QString::section(const QString& separator, int start, int end, int flags) const
 {
-    const bool caseSensitive = !(flags & SectionCaseInsensitiveSeps);
-    struct Field {
-        int begin, length;
-    };
-    std::vector<Field> fields;
-    int begin = 0;
     const int separatorLength = static_cast<int>(separator.length());
-    for (;;) {
-        const int found = separatorLength ? find(separator, begin, caseSensitive) : -1;
-        const int stop = found < 0 ? static_cast<int>(length()) : found;
-        if (!(flags & SectionSkipEmpty) || stop > begin)
-            fields.push_back(Field{begin, stop - begin});
-        if (found < 0)
-            break;
-        begin = found + separatorLength;
-    }
+    const std::vector<Field> fields = fieldsOf(*this, separator, flags);
     const int number = static_cast<int>(fields.size());
     if (start < 0)
         start += number;
