@@ -148,6 +148,21 @@ TEST(PixmapMasks, LetTheGroundShowThrough)
     EXPECT_FALSE(pixmap.mask());
 }
 
+TEST(PixmapMasks, StayWhenThePixmapIsFilledWhetherSharedOrNot)
+{
+    QBitmap mask(4, 4, true);
+    QPixmap alone(4, 4);
+    alone.setMask(mask);
+    QPixmap shared(alone);
+    for (QPixmap* pixmap : {&alone, &shared}) {
+        pixmap->fill(Qt::red);
+        ASSERT_TRUE(pixmap->mask());
+        EXPECT_EQ(0u, pixmap->convertToImage().pixel(1, 1) >> 24);
+    }
+    bitBlt(&alone, 0, 0, &shared, 0, 0, -1, -1, Qt::CopyROP, true);
+    EXPECT_EQ(qRgb(255, 0, 0) & RGB_MASK, alone.convertToImage().pixel(1, 1) & RGB_MASK);
+}
+
 TEST(PixmapMasks, MustFit)
 {
     QPixmap pixmap(3, 1);
@@ -227,4 +242,24 @@ TEST(PixmapOptimization, IsRemembered)
     QPixmap pixmap(2, 2);
     pixmap.setOptimization(QPixmap::MemoryOptim);
     EXPECT_EQ(QPixmap::MemoryOptim, pixmap.optimization());
+}
+
+TEST(PixmapOptimization, StaysWithThePixmap)
+{
+    const QPixmap best(5, 5, -1, QPixmap::BestOptim);
+    QPixmap detached(best), filled(best), resized(best), converted(best);
+    detached.detach();
+    filled.fill(Qt::red);
+    resized.resize(7, 7);
+    converted.convertFromImage(QImage(3, 3, 32));
+    for (const QPixmap* pixmap : {&detached, &filled, &resized, &converted})
+        EXPECT_EQ(QPixmap::BestOptim, pixmap->optimization());
+}
+
+TEST(PixmapFilling, WithNoWidgetLeavesItAsItIs)
+{
+    QPixmap pixmap(2, 2);
+    pixmap.fill(Qt::red);
+    pixmap.fill(static_cast<QWidget*>(nullptr), 0, 0);
+    EXPECT_EQ(qRgb(255, 0, 0), pixmap.convertToImage().pixel(1, 1));
 }

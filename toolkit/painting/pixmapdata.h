@@ -8,18 +8,32 @@ namespace zeltk
 {
 
 struct PixmapData {
-    int references;
-    int width;
-    int height;
-    int depth;
-    bool isBitmap;
-    bool selfMask; // a bitmap that is its own mask
-    int serial;
-    WId id;
-    WId alpha; // 0, or how opaque each pixel is; there is a mask, too, then
-    QBitmap* mask;
-    QPixmap::Optimization optimization;
+    int references = 1;
+    int width = 0;
+    int height = 0;
+    int depth = 0;
+    bool isBitmap = false;
+    bool selfMask = false; // a bitmap that is its own mask
+    int serial = 0;
+    WId id = 0;
+    WId alpha = 0; // 0, or how opaque each pixel is; there is a mask, too, then
+    QBitmap* mask = nullptr;
+    QPixmap::Optimization optimization = QPixmap::NormalOptim;
 };
+
+// These three have one owner. Null if there can be no pixmap of that size and depth; depth -1 is the
+// screen's.
+PixmapData* newPixmapData(int width, int height, int depth);
+PixmapData* newNullPixmapData(bool isBitmap);
+// Of the kind of another one, with undefined pixels.
+PixmapData* newPixmapDataLike(const PixmapData* other, int width, int height);
+// The same but for the pixels, which are undefined.
+PixmapData* newPixmapTwin(const PixmapData* other);
+// As far as both reach.
+void copyPixels(const PixmapData* from, PixmapData* to);
+// One owner less; the last one frees it.
+void release(PixmapData* data);
+int nextPixmapSerial();
 
 struct PixmapAccess {
     static PixmapData* data(const QPixmap* pixmap) { return pixmap->d; }
