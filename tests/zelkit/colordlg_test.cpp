@@ -188,13 +188,16 @@ TEST_F(ColorDlg, TypedNumbersMoveTheScrollBarAndThePanel)
 
 TEST_F(ColorDlg, ATypedNumberIsWrittenWithoutLeadingZeros)
 {
-    show(QColor(200, 20, 30));
-    edit('R')->setFocus();
-    edit('R')->setText("02");
-    xinput::typeKey(XK_End);
-    xinput::typeText("5");
-    settle();
-    expectAll("25 20 30");
+    show(QColor(200, 210, 220));
+    for (const char channel : {'R', 'G', 'B'}) {
+        edit(channel)->setFocus();
+        edit(channel)->setText("02");
+        xinput::typeKey(XK_End);
+        xinput::typeText("5");
+        settle();
+        EXPECT_EQ(edit(channel)->text(), "25") << channel;
+    }
+    expectAll("25 25 25");
 }
 
 TEST_F(ColorDlg, NumbersAbove255AndLettersAreRefused)

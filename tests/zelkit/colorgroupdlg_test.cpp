@@ -198,7 +198,7 @@ TEST_F(ColorGroupDlg, CaptionsWiderThanForegroundNeedAreClippedNotWidened)
 TEST_F(ColorGroupDlg, StartsWithItsOwnPalette)
 {
     const QPalette before = QApplication::palette();
-    QApplication::setPalette(QPalette(colorful(), colorful(), colorful()));
+    QApplication::setPalette(QPalette(colorful(), before.disabled(), before.inactive()));
     make();
     for (int row = 0; row < rowCount; ++row)
         EXPECT_EQ(color(row), dialog->palette().active().color(rows[row].initial)) << rows[row].text;
