@@ -6,6 +6,7 @@
 #include <qcolor.h>
 #include <qnamespace.h>
 
+#include <limits>
 #include <string>
 
 namespace
@@ -213,4 +214,9 @@ TEST(Color, PixelsOfATrueColorScreen)
     EXPECT_EQ(0x010203u, QColor(1, 2, 3).pixel() & 0xffffff);
     EXPECT_EQ(24, QColor::numBitPlanes());
     EXPECT_NE(0, QColor::maxColors());
+}
+
+TEST(Color, LightenedWithoutLimitIsWhite)
+{
+    checkSteps(QColor(10, 20, 30), {{std::numeric_limits<int>::max(), "#ffffff", "#000000"}});
 }

@@ -7,6 +7,8 @@
 #include <qfont.h>
 #include <qfontmetrics.h>
 
+#include <limits>
+
 namespace
 {
 
@@ -183,4 +185,27 @@ TEST(Font, OpenPropertiesComeFromAnother)
     EXPECT_EQ(20, resolved.pointSize());
     EXPECT_EQ(QFont::Bold, resolved.weight());
     EXPECT_TRUE(resolved.italic());
+}
+
+TEST(Font, SizesThatAreNoNumbersAreRefused)
+{
+    QFont font("Helvetica", 12);
+    for (const float size : {std::numeric_limits<float>::quiet_NaN(), -1e30F, 0.0F}) {
+        font.setPointSizeFloat(size);
+        EXPECT_NE("", takeMessages()) << size;
+        font.setPixelSizeFloat(size);
+        EXPECT_NE("", takeMessages()) << size;
+    }
+    EXPECT_EQ(QFont("Helvetica", 12), font);
+    font.setPixelSizeFloat(1e30F);
+    EXPECT_EQ(std::numeric_limits<int>::max(), font.pixelSize());
+}
+
+TEST(Font, AHintThatDoesNotExistIsNone)
+{
+    QFont font;
+    for (const char* text : {"DejaVu Sans,12,-1,99,50,0,0,0,0,0", "DejaVu Sans,12,-1,-1,50,0,0,0,0,0"}) {
+        EXPECT_TRUE(font.fromString(text));
+        EXPECT_EQ(QFont::AnyStyle, font.styleHint()) << text;
+    }
 }

@@ -166,6 +166,16 @@ TEST(Region, WindingFillsWhatIsCrossedTwice)
     EXPECT_TRUE(QRegion(star, true).contains(tip));
 }
 
+TEST(Region, OfAPolygonMayBeVeryWide)
+{
+    QPointArray corners;
+    corners.setPoints(3, -2000000000, 0, 2000000000, 0, 2000000000, 2);
+    const QRegion triangle(corners);
+    EXPECT_TRUE(triangle.contains(QPoint(-1999999999, 0)));
+    EXPECT_TRUE(triangle.contains(QPoint(1, 1)));
+    EXPECT_FALSE(triangle.contains(QPoint(-1, 1)));
+}
+
 TEST(Region, OfAnEllipse)
 {
     const QRegion circle(QRect(0, 0, 10, 10), QRegion::Ellipse);

@@ -262,6 +262,8 @@ const Entry* find(const Entry (&table)[Count], const std::string& name)
 // "gray0" to "gray100": parts of white in percent.
 bool findGray(const std::string& stem, const std::string& digits, std::uint32_t* rgb)
 {
+    if (digits.size() > 3)
+        return false;
     const int percent = std::atoi(digits.c_str());
     if ((stem != "gray" && stem != "grey") || percent > 100 || std::to_string(percent) != digits)
         return false;

@@ -13,7 +13,7 @@ class Font;
 }
 
 struct FontData {
-    int references;
+    int references = 1;
     // Which of the fields below were set; the others come from the parent's or the application's font.
     enum Field {
         Family = 1,
@@ -26,22 +26,22 @@ struct FontData {
         Pitch = 128,
         All = 255
     };
-    int set;
+    int set = 0;
 
     QString family;
-    int tenths;    // of a point; -1 if pixels count
-    int pixelSize; // -1 if points count
-    int weight;
-    bool italic;
-    bool underline;
-    bool overline;
-    bool strikeOut;
-    bool fixedPitch;
-    bool raw;
-    QFont::StyleHint hint;
-    QFont::StyleStrategy strategy;
+    int tenths = -1;    // of a point; -1 if pixels count
+    int pixelSize = -1; // -1 if points count
+    int weight = QFont::Normal;
+    bool italic = false;
+    bool underline = false;
+    bool overline = false;
+    bool strikeOut = false;
+    bool fixedPitch = false;
+    bool raw = false;
+    QFont::StyleHint hint = QFont::AnyStyle;
+    QFont::StyleStrategy strategy = QFont::PreferDefault;
 
-    const x11::Font* face; // opened when it is needed first
+    const x11::Font* face = nullptr; // opened when it is needed first
 };
 
 struct FontAccess {
@@ -52,6 +52,8 @@ struct FontAccess {
 // The face that was found for a font. Needs a connection.
 const x11::Font* faceOf(const QFont& font);
 int pixelSizeOf(const QFont& font);
+// What is too large for an int is the largest that fits; what is no number is the smallest.
+int roundedSize(double size);
 
 } // namespace zeltk
 

@@ -33,10 +33,10 @@ std::vector<Crossing> crossings(const QPointArray& polygon, int y)
             std::swap(from, to);
         if (y < from.y() || y >= to.y())
             continue;
-        const Q_LLONG rise = to.y() - from.y();
-        result.push_back(
-            {from.x() + static_cast<int>(ceilDivided(Q_LLONG(y - from.y()) * (to.x() - from.x()), rise)),
-             direction});
+        const Q_LLONG rise = Q_LLONG(to.y()) - from.y();
+        const Q_LLONG run = Q_LLONG(to.x()) - from.x();
+        const Q_LLONG x = from.x() + ceilDivided((Q_LLONG(y) - from.y()) * run, rise);
+        result.push_back({static_cast<int>(x), direction});
     }
     std::sort(result.begin(), result.end(), [](const Crossing& a, const Crossing& b) { return a.x < b.x; });
     return result;

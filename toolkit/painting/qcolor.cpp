@@ -177,13 +177,10 @@ QColor QColor::light(int percent) const
     int s;
     int v;
     hsv(&h, &s, &v);
-    v = v * percent / 100;
-    if (v > 255) {
-        s = std::max(s - (v - 255), 0);
-        v = 255;
-    }
+    const Q_LLONG wanted = Q_LLONG(v) * percent / 100;
+    const int surplus = static_cast<int>(std::min(std::max(wanted - 255, Q_LLONG(0)), Q_LLONG(255)));
     QColor result;
-    result.setHsv(h, s, v);
+    result.setHsv(h, std::max(s - surplus, 0), static_cast<int>(std::min(wanted, Q_LLONG(255))));
     return result;
 }
 

@@ -8,6 +8,7 @@
 #include "x11/connection.h"
 
 #include <map>
+#include <utility>
 
 using zeltk::PainterData;
 using zeltk::PainterState;
@@ -47,6 +48,34 @@ void takeAttributes(const zeltk::WidgetPaintState& from, PainterState* state)
     state->background = from.background;
 }
 
+void beginOnWidget(const QPaintDevice* device, PainterData* d)
+{
+    if (!zeltk::widgetPaintState)
+        return;
+    zeltk::WidgetPaintState widget;
+    zeltk::widgetPaintState(device, nullptr, &widget);
+    takeAttributes(widget, &d->state);
+    d->state.brushOrigin = widget.brushOrigin;
+    d->overChildren = d->overChildren || widget.unclipped;
+    d->hasEventClip = widget.painting && !widget.wholeWidget;
+    d->eventClip = widget.eventClip;
+}
+
+bool beginOnPixmap(QPixmap* pixmap, PainterData* d)
+{
+    if (pixmap->isNull()) {
+        qWarning("QPainter::begin: Cannot paint null pixmap");
+        return false;
+    }
+    pixmap->detach();
+    d->bitmap = pixmap->depth() == 1;
+    if (d->bitmap) {
+        d->state.pen = QPen(Qt::color1);
+        d->state.background = Qt::color0;
+    }
+    return true;
+}
+
 } // namespace
 
 bool QPainter::begin(const QPaintDevice* device, bool unclipped)
@@ -62,33 +91,16 @@ bool QPainter::begin(const QPaintDevice* device, bool unclipped)
     }
     QPaintDevice* target = const_cast<QPaintDevice*>(device);
     if (QPaintDevice* replacement = redirect(target))
-        device = target = replacement;
-    const bool isWidget = zeltk::PaintDeviceAccess::isWidget(device);
-    if (!isWidget) {
-        QPixmap* pixmap = static_cast<QPixmap*>(target);
-        if (pixmap->isNull()) {
-            qWarning("QPainter::begin: Cannot paint null pixmap");
-            return false;
-        }
-        pixmap->detach();
-    }
-    *d = PainterData();
+        target = replacement;
+    PainterData fresh;
+    fresh.overChildren = unclipped;
+    if (zeltk::PaintDeviceAccess::isWidget(target))
+        beginOnWidget(target, &fresh);
+    else if (!beginOnPixmap(static_cast<QPixmap*>(target), &fresh))
+        return false;
+    *d = std::move(fresh);
     d->device = target;
     d->drawable = target->handle();
-    d->bitmap = !isWidget && static_cast<const QPixmap*>(device)->depth() == 1;
-    d->overChildren = unclipped;
-    if (isWidget && zeltk::widgetPaintState) {
-        zeltk::WidgetPaintState widget;
-        zeltk::widgetPaintState(device, nullptr, &widget);
-        takeAttributes(widget, &d->state);
-        d->state.brushOrigin = widget.brushOrigin;
-        d->overChildren = unclipped || widget.unclipped;
-        d->hasEventClip = widget.painting && !widget.wholeWidget;
-        d->eventClip = widget.eventClip;
-    } else if (d->bitmap) {
-        d->state.pen = QPen(Qt::color1);
-        d->state.background = Qt::color0;
-    }
     ++target->painters;
     d->clipChanged();
     return true;

@@ -38,7 +38,7 @@ struct ModeRoles {
     QColorGroup::ColorRole foreground;
 };
 
-// What is drawn on each background.
+// What is drawn on each background; the foreground on all others.
 const ModeRoles modeRoles[] = {
     {Qt::PaletteForeground, QColorGroup::Foreground, QColorGroup::Foreground},
     {Qt::PaletteButton, QColorGroup::Button, QColorGroup::ButtonText},
@@ -56,6 +56,14 @@ const ModeRoles modeRoles[] = {
     {Qt::PaletteLink, QColorGroup::Link, QColorGroup::Foreground},
     {Qt::PaletteLinkVisited, QColorGroup::LinkVisited, QColorGroup::Foreground},
 };
+
+ModeRoles rolesOf(Qt::BackgroundMode mode)
+{
+    for (const ModeRoles& roles : modeRoles)
+        if (roles.mode == mode)
+            return roles;
+    return {mode, QColorGroup::Background, QColorGroup::Foreground};
+}
 
 // Black text on a bright background, white text on a dark one.
 QPalette paletteOf(const QColor& button, const QColor& background)
@@ -271,16 +279,10 @@ int QPalette::serialNumber() const
 
 QColorGroup::ColorRole QPalette::foregroundRoleFromMode(Qt::BackgroundMode mode)
 {
-    for (const ModeRoles& roles : modeRoles)
-        if (roles.mode == mode)
-            return roles.foreground;
-    return QColorGroup::Foreground;
+    return rolesOf(mode).foreground;
 }
 
 QColorGroup::ColorRole QPalette::backgroundRoleFromMode(Qt::BackgroundMode mode)
 {
-    for (const ModeRoles& roles : modeRoles)
-        if (roles.mode == mode)
-            return roles.background;
-    return QColorGroup::Background;
+    return rolesOf(mode).background;
 }

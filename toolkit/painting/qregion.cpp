@@ -117,11 +117,11 @@ void QRegion::translate(int dx, int dy)
 {
     zeltk::Bands bands = d->bands;
     for (Band& band : bands) {
-        band.top += dy;
-        band.bottom += dy;
+        band.top = zeltk::sum(band.top, dy);
+        band.bottom = zeltk::sum(band.bottom, dy);
         for (Span& span : band.spans) {
-            span.from += dx;
-            span.behind += dx;
+            span.from = zeltk::sum(span.from, dx);
+            span.behind = zeltk::sum(span.behind, dx);
         }
     }
     *this = QRegion(newData(std::move(bands)));
