@@ -235,6 +235,7 @@ TEST_F(ColorGroupDlg, ForegroundIsLoadedFromTheText)
 TEST_F(ColorGroupDlg, MakesAColourGroup)
 {
     dialog->setColorGroup(colorful());
+    swatches[Foreground]->setPaletteBackgroundColor(QColor(1, 2, 3)); // not the text's
     const QColorGroup& made = dialog->getColorGroup();
     const struct {
         QColorGroup::ColorRole role;

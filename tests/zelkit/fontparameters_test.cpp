@@ -3,6 +3,7 @@
 
 #include "dialogs.h"
 #include "messages.h"
+#include "signalrecorder.h"
 
 #include <qcheckbox.h>
 #include <qcombobox.h>
@@ -122,6 +123,25 @@ TEST_F(FontParameters, AllAtOnceSetControlsAndSample)
     EXPECT_EQ(controls(), "Utopia 96 Black -u-");
     EXPECT_EQ(sample(), "Utopia 96 87 -u-");
     EXPECT_EQ(values(), "Utopia 96 87 -u-");
+}
+
+TEST_F(FontParameters, TheControlsAreSetOneByOneAndThenTheSample)
+{
+    SignalRecorder recorder;
+    recorder.watch(family, SIGNAL(textChanged(const QString&)), "family");
+    recorder.watch(size, SIGNAL(textChanged(const QString&)), "size");
+    recorder.watch(italic, SIGNAL(toggled(bool)), "italic");
+    recorder.watch(underline, SIGNAL(toggled(bool)), "underline");
+    recorder.watch(strikeOut, SIGNAL(toggled(bool)), "strikeOut");
+    std::string weights;
+    recorder.whenever = [&] {
+        weights += std::string(weight->currentText().latin1()) + " ";
+        EXPECT_EQ(sample(), "Courier 14 50 ---");
+    };
+    dialog.setFontParameters("Times", 12, 75, true, true, true);
+    EXPECT_EQ(recorder.take(), "family(Times) size(12) italic(true) underline(true) strikeOut(true)");
+    EXPECT_EQ(weights, "Normal Normal Bold Bold Bold ");
+    EXPECT_EQ(sample(), "Times 12 75 ius");
 }
 
 TEST_F(FontParameters, EveryWeightHasItsName)
