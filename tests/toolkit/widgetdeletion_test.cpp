@@ -134,6 +134,16 @@ TEST_F(WidgetDeletion, WhileItIsShown)
     check(nothing, [](Family& family) { family.window->show(); });
 }
 
+TEST_F(WidgetDeletion, WhileItIsPolished)
+{
+    struct Shy : QWidget {
+        void polish() override { delete this; }
+    };
+    (new Perishable<Shy>)->adjustSize();
+    (new Perishable<Shy>)->show();
+    QPixmap::grabWidget(new Perishable<Shy>);
+}
+
 TEST_F(WidgetDeletion, WhileItIsHidden)
 {
     check(showAll, [](Family& family) { family.window->hide(); });

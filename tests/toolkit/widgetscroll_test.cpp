@@ -6,6 +6,9 @@
 
 #include <gtest/gtest.h>
 #include <qpainter.h>
+#include <qpixmap.h>
+
+#include <limits>
 
 namespace
 {
@@ -81,6 +84,20 @@ TEST_F(WidgetScroll, WhatLiesUnderAnotherWindowIsPainted)
     EXPECT_EQ("w Paint erased 0,0 30x40", log.take());
     settle();
     EXPECT_EQ("w Paint erased 35,5 20x20", log.take()) << "it could not be copied";
+}
+
+TEST_F(WidgetScroll, NumbersOutOfAllMeasureDoNoHarm)
+{
+    const int least = std::numeric_limits<int>::min();
+    const int most = std::numeric_limits<int>::max();
+    for (const int far : {least, -most, most}) {
+        window.scroll(far, far);
+        window.scroll(far, 0, QRect(5, 5, 10, 10));
+        window.update(far, far, -1, -1);
+        window.repaint(far, far, -1, -1);
+        QPixmap::grabWidget(&window, far, far);
+    }
+    EXPECT_EQ(0, Pixels::of(&window).count(red)) << "all was scrolled away";
 }
 
 TEST(WidgetMask, ShowsAPartOnly)

@@ -56,9 +56,11 @@ public slots:
     void toggle();
 
 signals:
+    //! By the mouse, the keyboard or the shortcut. A click may come without the others, as from Return.
     void pressed();
     void released();
     void clicked();
+    //! Of toggle buttons, whoever changes their state.
     void toggled(bool on);
     void stateChanged(int state);
 

@@ -22,6 +22,7 @@ public:
     //! Clipboard is what the user copied, Selection what is marked with the mouse.
     enum Mode { Clipboard, Selection };
 
+    //! These emit selectionChanged() or dataChanged(), which also tell that another program has taken over.
     void clear(Mode mode);
     void clear();
 
@@ -33,6 +34,7 @@ public:
     void setSelectionMode(bool enable);
     bool selectionModeEnabled() const;
 
+    //! Null if there is none. Who has it is asked, and waited for.
     QString text(Mode mode) const;
     QString text() const;
     //! An empty subtype is set to the one that was found; only "plain" is offered.

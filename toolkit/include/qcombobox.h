@@ -103,10 +103,13 @@ public slots:
     virtual void setEditText(const QString& text);
 
 signals:
+    //! The user has chosen an entry, even the same one again; the program's choices are not told.
     void activated(int index);
+    //! The user moves through the open list.
     void highlighted(int index);
     void activated(const QString& text);
     void highlighted(const QString& text);
+    //! The text of an editable one.
     void textChanged(const QString& text);
 
 private slots:

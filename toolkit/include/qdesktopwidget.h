@@ -16,6 +16,7 @@ public:
     bool isVirtualDesktop() const { return false; }
     int numScreens() const { return 1; }
     int primaryScreen() const { return 0; }
+    //! There is one screen, whatever the number.
     QWidget* screen(int screen = -1);
     const QRect& screenGeometry(int screen = -1) const;
 

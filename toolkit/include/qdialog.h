@@ -44,10 +44,12 @@ public:
     bool isModal() const;
 
 public slots:
-    //! Shows the dialog as a modal one and returns its result when it has been hidden.
+    //! Shows the dialog as a modal one and returns its result when it has been hidden: Rejected if
+    //! nobody has set another.
     int exec();
 
 protected slots:
+    //! Hides the dialog with that result; accept() and reject() call it.
     virtual void done(int result);
     virtual void accept();
     virtual void reject();

@@ -32,6 +32,7 @@ public:
     virtual bool processEvents(ProcessEventsFlags flags);
     virtual bool hasPendingEvents() const;
 
+    //! As QApplication has them.
     virtual int exec();
     virtual void exit(int retcode = 0);
     virtual int enterLoop();
@@ -41,6 +42,7 @@ public:
     virtual void wakeUp();
 
 signals:
+    //! After and before the loop waits.
     void awake();
     void aboutToBlock();
 

@@ -108,7 +108,9 @@ public slots:
     virtual void setDragEnabled(bool enable);
 
 signals:
+    //! By the user or by the program.
     void textChanged(const QString& text);
+    //! Only if the text is acceptable, or could be repaired.
     void returnPressed();
     void lostFocus();
     void selectionChanged();

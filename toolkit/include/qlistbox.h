@@ -196,12 +196,15 @@ public slots:
     virtual void invertSelection();
 
 signals:
+    //! Another entry is the current one; selected: one was chosen with a double click or Return. The form
+    //! with a text is for entries that have one.
     void highlighted(int index);
     void selected(int index);
     void highlighted(const QString& text);
     void selected(const QString& text);
     void highlighted(QListBoxItem* item);
     void selected(QListBoxItem* item);
+    //! The second one only if one entry at most can be selected.
     void selectionChanged();
     void selectionChanged(QListBoxItem* item);
     void currentChanged(QListBoxItem* item);
@@ -216,6 +219,7 @@ signals:
     void mouseButtonPressed(int button, QListBoxItem* item, const QPoint& pos);
     void mouseButtonClicked(int button, QListBoxItem* item, const QPoint& pos);
     void contextMenuRequested(QListBoxItem* item, const QPoint& pos);
+    //! The pointer moves with no left button held, over an entry or below them all.
     void onItem(QListBoxItem* item);
     void onViewport();
 

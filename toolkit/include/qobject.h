@@ -28,13 +28,17 @@ public:
     //! Emits destroyed(), breaks all connections, deletes the children.
     virtual ~QObject();
 
+    //! The text as the installed translators have it; the comment tells equal texts of the class apart.
     static QString tr(const char* text, const char* comment = 0);
     static QString trUtf8(const char* text, const char* comment = 0);
 
+    //! Calls the handler for the event. True if there is one, or if a filter has taken the event.
     virtual bool event(QEvent* event);
     //! Sees the events of the objects it is installed on; true keeps the event from them.
     virtual bool eventFilter(QObject* watched, QEvent* event);
 
+    //! These are written by the meta-object compiler for each class with Q_OBJECT. qt_cast() gives the object
+    //! as that class, null if it is none.
     virtual QMetaObject* metaObject() const;
     virtual const char* className() const;
     virtual void* qt_cast(const char* className);
@@ -42,6 +46,7 @@ public:
     virtual bool qt_emit(int id, QUObject* arguments);
     static QMetaObject* staticMetaObject();
 
+    //! Whether it is of exactly that class, or of one derived from it.
     bool isA(const char* className) const;
     bool inherits(const char* className) const;
 
@@ -52,6 +57,7 @@ public:
     bool highPriority() const { return false; }
 
     bool signalsBlocked() const;
+    //! While signals are blocked nobody hears of them, destroyed() excepted.
     void blockSignals(bool block);
 
     //! Sends a QTimerEvent each `interval` milliseconds. Returns the timer's identifier, 0 if there is none.
@@ -59,19 +65,24 @@ public:
     void killTimer(int id);
     void killTimers();
 
+    //! The first child of that name and class, also inside of others if it is recursive; null if there is
+    //! none.
     QObject* child(const char* objName, const char* inheritsClass = 0, bool recursiveSearch = true);
     //! Null without children.
     const QObjectList* children() const;
     //! All objects without parent.
     static const QObjectList* objectTrees();
-    //! A new list, which the caller deletes.
+    //! All such children, in a new list that the caller deletes. Null stands for any class or name; the name
+    //! may be a regular expression.
     QObjectList* queryList(const char* inheritsClass = 0, const char* objName = 0, bool regexpMatch = true,
                            bool recursiveSearch = true) const;
 
+    //! Takes the child from its parent before. childEvent() tells of it later; of a removal at once. Widgets
+    //! move with QWidget::reparent().
     virtual void insertChild(QObject* child);
     virtual void removeChild(QObject* child);
 
-    //! The last one installed is asked first.
+    //! The last one installed is asked first. Neither owns the other.
     void installEventFilter(const QObject* filter);
     void removeEventFilter(const QObject* filter);
 
@@ -98,6 +109,7 @@ public:
     QObject* parent() const;
 
 protected: // signals
+    //! At the begin of the destructor: the object is no more than a QObject then.
     void destroyed();
     void destroyed(QObject* object);
 
@@ -114,10 +126,13 @@ protected:
     //! The object whose signal called the running slot of this object; null outside.
     const QObject* sender();
 
+    //! Handlers; they do nothing.
     virtual void timerEvent(QTimerEvent* event);
     virtual void childEvent(QChildEvent* event);
     virtual void customEvent(QCustomEvent* event);
 
+    //! Called when one of this object's signals was connected, or disconnected (null: it may have been any).
+    //! The signal is as SIGNAL() gives it, without needless blanks.
     virtual void connectNotify(const char* signal);
     virtual void disconnectNotify(const char* signal);
 

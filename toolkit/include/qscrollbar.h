@@ -47,6 +47,7 @@ public:
     void setPageStep(int step) { setSteps(lineStep(), step); }
     int value() const { return QRangeControl::value(); }
 
+    //! Pixels from the beginning of the bar.
     int sliderStart() const;
     QRect sliderRect() const;
 
@@ -54,10 +55,13 @@ public slots:
     void setValue(int value) { QRangeControl::setValue(value); }
 
 signals:
+    //! By the user or by the program.
     void valueChanged(int value);
+    //! The slider is dragged; without tracking the value follows when it is released.
     void sliderPressed();
     void sliderMoved(int value);
     void sliderReleased();
+    //! After the value has changed by a step.
     void nextLine();
     void prevLine();
     void nextPage();

@@ -48,12 +48,14 @@ public:
     QSize minimumSizeHint() const;
 
 signals:
+    //! The contents are about to move: to the place that comes into the corner of the viewport.
     void contentsMoving(int x, int y);
 
 public slots:
     virtual void resizeContents(int w, int h);
     void scrollBy(int dx, int dy);
     virtual void setContentsPos(int x, int y);
+    //! Scrolls as little as possible, so that the point is so far from the edges; without margins 50 pixels.
     void ensureVisible(int x, int y);
     void ensureVisible(int x, int y, int xmargin, int ymargin);
     void updateScrollBars();

@@ -14,10 +14,12 @@ public:
     ~QTimer();
 
     bool isActive() const { return id >= 0; }
-    //! Returns the timer's identifier.
+    //! In milliseconds from now on. Returns the timer's identifier, 0 without an application.
     int start(int msec, bool singleShot = false);
+    //! Starts it anew.
     void changeInterval(int msec);
     void stop();
+    //! -1 while it is not active.
     int timerId() const { return id; }
 
     //! Calls the slot once after that time.

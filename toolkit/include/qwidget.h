@@ -55,10 +55,11 @@ public:
     explicit QWidget(QWidget* parent = 0, const char* name = 0, WFlags f = 0);
     ~QWidget();
 
+    //! The X server's window.
     WId winId() const { return hd; }
     virtual void setName(const char* name);
 
-    //! Null and none for children; see Qt::WidgetFlags.
+    //! Whether it is a window of its own. Dialogs, popups and the desktop are.
     bool isTopLevel() const { return testWFlags(WType_TopLevel); }
     bool isDialog() const { return testWFlags(WType_Dialog); }
     bool isPopup() const { return testWFlags(WType_Popup); }
@@ -66,9 +67,12 @@ public:
     bool isModal() const;
 
     bool isEnabled() const { return !testWState(WState_Disabled); }
+    //! Whether it would be enabled if the ancestor were.
     bool isEnabledTo(QWidget* ancestor) const;
     bool isEnabledToTLW() const { return isEnabled(); }
 
+    //! In pixels, in the parent or, for a window, on the screen: with and without the window manager's frame.
+    //! x(), y() and pos() are the frame's corner, size() is without the frame.
     QRect frameGeometry() const;
     const QRect& geometry() const;
     int x() const;
@@ -79,9 +83,12 @@ public:
     int width() const { return geometry().width(); }
     int height() const { return geometry().height(); }
     QRect rect() const { return QRect(0, 0, width(), height()); }
+    //! Around all children that are not hidden.
     QRect childrenRect() const;
     QRegion childrenRegion() const;
 
+    //! From 0 to QWIDGETSIZE_MAX; others are brought there with a warning. A widget outside of its new limits
+    //! is resized.
     QSize minimumSize() const;
     QSize maximumSize() const;
     int minimumWidth() const { return minimumSize().width(); }
@@ -96,6 +103,7 @@ public:
     void setMinimumHeight(int minh);
     void setMaximumWidth(int maxw);
     void setMaximumHeight(int maxh);
+    //! A window is resized by the user to the base size and a whole number of increments.
     QSize sizeIncrement() const;
     void setSizeIncrement(const QSize& s) { setSizeIncrement(s.width(), s.height()); }
     virtual void setSizeIncrement(int w, int h);
@@ -107,6 +115,7 @@ public:
     void setFixedWidth(int w);
     void setFixedHeight(int h);
 
+    //! Global is on the screen.
     QPoint mapToGlobal(const QPoint& p) const;
     QPoint mapFromGlobal(const QPoint& p) const;
     QPoint mapToParent(const QPoint& p) const;
@@ -131,6 +140,7 @@ public:
     bool ownPalette() const;
     virtual void setPalette(const QPalette& palette);
     void setPalette(const QPalette& palette, bool) { setPalette(palette); }
+    //! It follows its parent, or the application, again.
     void unsetPalette();
     const QColor& paletteForegroundColor() const;
     void setPaletteForegroundColor(const QColor& color);
@@ -167,20 +177,27 @@ public:
     //! Whether the pointer is in the widget or in one of its children.
     bool hasMouse() const { return testWState(WState_HasMouse); }
 
+    //! Nothing of the widget is outside of the region, neither to see nor to click.
     virtual void setMask(const QRegion& region);
     void clearMask();
 
+    //! Whether the widget's window has the keyboard.
     bool isActiveWindow() const;
+    //! Asks for the keyboard; has no effect on a hidden window.
     virtual void setActiveWindow();
     bool isFocusEnabled() const { return focusPolicy() != NoFocus; }
     FocusPolicy focusPolicy() const;
     virtual void setFocusPolicy(FocusPolicy policy);
     bool hasFocus() const;
+    //! Tab goes from the first to the second, which must be in the same window.
     static void setTabOrder(QWidget* first, QWidget* second);
+    //! The proxy gets the focus in its place. Null: nobody does.
     virtual void setFocusProxy(QWidget* proxy);
     QWidget* focusProxy() const;
+    //! The one in the widget's window that has the focus, or gets it with the window; may be null.
     QWidget* focusWidget() const;
 
+    //! A visible widget gets all events of the mouse or the keyboard until it releases them or is hidden.
     void grabMouse();
     void grabMouse(const QCursor& cursor);
     void releaseMouse();
@@ -191,11 +208,18 @@ public:
 
     bool isUpdatesEnabled() const { return !testWState(WState_BlockUpdates); }
 
+    //! Hides the widget unless its closeEvent() refuses; false then. With `alsoDelete` it is deleted at once,
+    //! with WDestructiveClose later by close(). Closing the main widget ends the program; of the last window
+    //! the application tells.
     virtual bool close(bool alsoDelete);
+    //! Whether it is shown and all around it are; others may cover it.
     bool isVisible() const { return testWState(WState_Visible); }
+    //! Whether it would be visible if the ancestor were.
     bool isVisibleTo(QWidget* ancestor) const;
     bool isVisibleToTLW() const { return isVisible(); }
+    //! What of it is inside all its parents; null if it is not visible.
     QRect visibleRect() const;
+    //! Whether only show() makes it appear: it was hidden, or it is new and has no parent or a visible one.
     bool isHidden() const { return testWState(WState_ForceHide); }
     bool isShown() const { return !isHidden(); }
     bool isMinimized() const;
@@ -205,6 +229,7 @@ public:
     uint windowState() const;
     void setWindowState(uint state);
 
+    //! What the layout wants; an invalid size without one.
     virtual QSize sizeHint() const;
     virtual QSize minimumSizeHint() const;
     virtual QSizePolicy sizePolicy() const;
@@ -213,13 +238,17 @@ public:
     {
         setSizePolicy(QSizePolicy(hor, ver, hfw));
     }
+    //! The layout's height for that width; 0 if it does not depend on it.
     virtual int heightForWidth(int width) const;
+    //! What of visibleRect() is not covered by children and by siblings above it.
     QRegion clipRegion() const;
     //! The layout that arranges the children; null if there is none.
     QLayout* layout() const;
     //! To be called when a size hint has changed.
     void updateGeometry();
 
+    //! Moves it to that place in another parent, without parent to a window of its own. Unless `showIt` it is
+    //! hidden, or appears with its parent. The second form keeps the flags except those of a window.
     virtual void reparent(QWidget* parent, WFlags f, const QPoint& p, bool showIt = false);
     void reparent(QWidget* parent, const QPoint& p, bool showIt = false);
 
@@ -228,6 +257,7 @@ public:
     void erase(int x, int y, int width, int height) { erase(QRegion(x, y, width, height)); }
     void erase(const QRect& rect) { erase(QRegion(rect)); }
     void erase(const QRegion& region);
+    //! Moves what is painted, and paints what comes into sight; without a rectangle all children, too.
     void scroll(int dx, int dy);
     void scroll(int dx, int dy, const QRect& rect);
 
@@ -237,8 +267,10 @@ public:
     WState getWState() const;
     bool testWState(WState s) const { return (getWState() & s) != 0; }
     bool testWFlags(WFlags f) const;
+    //! The widget of that window; null if it is none of this program.
     static QWidget* find(WId id);
 
+    //! The innermost child there that is not hidden; without one the widget itself, or null.
     QWidget* childAt(int x, int y, bool includeThis = false) const;
     QWidget* childAt(const QPoint& p, bool includeThis = false) const
     {
@@ -249,14 +281,19 @@ public:
     QWidget* parentWidget(bool sameWindow = false) const;
 
 public slots:
+    //! A disabled widget hears neither mouse nor keyboard, nor does any in it.
     virtual void setEnabled(bool enable);
     void setDisabled(bool disable);
+    //! These are for windows; children have none.
     virtual void setCaption(const QString& caption);
     virtual void setIcon(const QPixmap& icon);
     virtual void setIconText(const QString& text);
+    //! Whether it hears of moves without a button.
     virtual void setMouseTracking(bool enable);
+    //! At once if the window is active, else as soon as it is. A disabled widget takes no focus.
     virtual void setFocus();
     void clearFocus();
+    //! Without updates nothing is painted, and nothing later of what was missed.
     virtual void setUpdatesEnabled(bool enable);
 
     //! Paint when control returns to the event loop.
@@ -270,6 +307,8 @@ public slots:
     void repaint(const QRect& rect, bool erase = true);
     void repaint(const QRegion& region, bool erase = true);
 
+    //! A child of a hidden parent appears with it. Before a widget is shown first it is polished and hears of
+    //! its place and size.
     virtual void show();
     virtual void hide();
     void setShown(bool show);
@@ -279,19 +318,24 @@ public slots:
     virtual void showMaximized();
     virtual void showFullScreen();
     virtual void showNormal();
+    //! Called once before the widget is shown first.
     virtual void polish();
     void constPolish() const;
     bool close();
 
+    //! Above all siblings, below them, or right below one.
     void raise();
     void lower();
     void stackUnder(QWidget* sibling);
+    //! The frame's corner; setGeometry() means the widget without it. A size is kept in its limits and at
+    //! least 1 x 1. A visible widget hears of it at once, others when they are shown.
     virtual void move(int x, int y);
     void move(const QPoint& p);
     virtual void resize(int w, int h);
     void resize(const QSize& size);
     virtual void setGeometry(int x, int y, int w, int h);
     virtual void setGeometry(const QRect& rect);
+    //! Takes the size hint, or, without one, the room of the children.
     virtual void adjustSize();
 
 protected:
@@ -316,11 +360,13 @@ protected:
     virtual void showEvent(QShowEvent* event);
     virtual void hideEvent(QHideEvent* event);
 
+    //! Called after the change.
     virtual void enabledChange(bool oldEnabled);
     virtual void paletteChange(const QPalette& oldPalette);
     virtual void fontChange(const QFont& oldFont);
     virtual void windowActivationChange(bool oldActive);
 
+    //! Moves the focus as Tab (or Backtab) does; false if there is nobody else.
     virtual bool focusNextPrevChild(bool next);
 
     WFlags getWFlags() const;

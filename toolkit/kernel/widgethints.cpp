@@ -66,7 +66,10 @@ QSize windowSize(const QWidget* window, QSize wanted)
 
 void QWidget::adjustSize()
 {
+    const QGuardedPtr<QWidget> alive(this);
     constPolish();
+    if (!alive)
+        return;
     const QSize wanted = sizeHint();
     if (wanted.isValid() && !wanted.isNull()) {
         resize(isTopLevel() ? windowSize(this, wanted) : wanted);

@@ -25,6 +25,12 @@ bool paintsItself(const QWidget* widget)
     return widget->isVisible() && widget->isUpdatesEnabled() && !widget->isDesktop();
 }
 
+// Negative widths and heights reach to the edge.
+QRect toTheEdges(const QWidget* widget, int x, int y, int width, int height)
+{
+    return QRect(x, y, width < 0 ? widget->width() - x : width, height < 0 ? widget->height() - y : height);
+}
+
 // The server paints pixmaps from the window's own corner only.
 bool erasesByPainter(const WidgetData* data)
 {
@@ -156,7 +162,7 @@ void QWidget::update()
 
 void QWidget::update(int x, int y, int width, int height)
 {
-    update(QRect(x, y, width < 0 ? this->width() - x : width, height < 0 ? this->height() - y : height));
+    update(toTheEdges(this, x, y, width, height));
 }
 
 void QWidget::update(const QRect& rect)
@@ -177,8 +183,7 @@ void QWidget::repaint(bool erase)
 
 void QWidget::repaint(int x, int y, int width, int height, bool erase)
 {
-    repaint(QRect(x, y, width < 0 ? this->width() - x : width, height < 0 ? this->height() - y : height),
-            erase);
+    repaint(toTheEdges(this, x, y, width, height), erase);
 }
 
 void QWidget::repaint(const QRect& rect, bool erase)
@@ -225,7 +230,9 @@ void QWidget::scroll(int dx, int dy, const QRect& area)
 {
     if (!isVisible() || (dx == 0 && dy == 0))
         return;
-    const QRect to = QRect(area.x() + dx, area.y() + dy, area.width(), area.height()) & area;
+    QRect to = area;
+    to.moveBy(dx, dy);
+    to &= area;
     if (!to.isEmpty())
         x11::scrollWindow(winId(), to.x() - dx, to.y() - dy, to.width(), to.height(), to.x(), to.y());
     repaint(QRegion(area) - QRegion(to), !testWFlags(WRepaintNoErase));
