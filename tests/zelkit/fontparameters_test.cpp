@@ -403,10 +403,16 @@ TEST_F(FontParameters, SlotsReadTheStateOfTheBoxes)
     dialog.setFontItalic(false);
     dialog.italicClicked();
     EXPECT_EQ(sample(), "Courier 14 50 --s");
-    italic->setNoChange(); // anything but off counts
+    strikeOut->setChecked(false);
+    dialog.strikeoutClicked();
+    EXPECT_EQ(sample(), "Courier 14 50 ---");
+    for (QCheckBox* box : {italic, underline, strikeOut})
+        box->setNoChange(); // anything but off counts
     dialog.italicClicked();
-    EXPECT_EQ(sample(), "Courier 14 50 i-s");
-    EXPECT_TRUE(dialog.beFontItalic());
+    dialog.underlineClicked();
+    dialog.strikeoutClicked();
+    EXPECT_EQ(sample(), "Courier 14 50 ius");
+    EXPECT_EQ(values(), "Courier 14 50 ius");
 }
 
 TEST_F(FontParameters, AnUnknownWeightNameChangesNothing)
