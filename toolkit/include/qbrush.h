@@ -6,6 +6,7 @@
 
 class QPixmap;
 
+//! A colour and a pattern, or a pixmap that is repeated. A default one fills nothing.
 class Q_EXPORT QBrush : public Qt
 {
 public:
@@ -18,13 +19,16 @@ public:
     QBrush& operator=(const QBrush& other);
 
     BrushStyle style() const { return s; }
+    //! Warns of CustomPattern, which comes with setPixmap().
     void setStyle(BrushStyle style);
     const QColor& color() const { return c; }
     void setColor(const QColor& color) { c = color; }
-    //! Null unless the style is CustomPattern.
+    //! The pattern that was given; null if there is none. The brush owns it.
     QPixmap* pixmap() const { return p; }
+    //! The style becomes CustomPattern; with a null pixmap, NoBrush.
     void setPixmap(const QPixmap& pixmap);
 
+    //! Pixmaps count as equal if they share their pixels.
     bool operator==(const QBrush& other) const;
     bool operator!=(const QBrush& other) const { return !(*this == other); }
 

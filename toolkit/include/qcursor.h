@@ -11,6 +11,7 @@ namespace zeltk
 struct CursorData;
 }
 
+//! How the pointer looks.
 class Q_EXPORT QCursor : public Qt
 {
 public:

@@ -4,6 +4,7 @@
 
 #include <qfont.h>
 
+//! Family, weight and pitch are those of the font that is used; the rest is as it was wished.
 class Q_EXPORT QFontInfo
 {
 public:
@@ -20,6 +21,7 @@ public:
     bool strikeOut() const { return wanted.strikeOut(); }
     bool fixedPitch() const;
     QFont::StyleHint styleHint() const { return wanted.styleHint(); }
+    //! Whether family and weight are those that were asked for.
     bool exactMatch() const;
 
 private:

@@ -7,6 +7,7 @@
 
 class QTextParag;
 
+//! Of the font that is used for the one given. Needs an application.
 class Q_EXPORT QFontMetrics
 {
 public:
@@ -15,16 +16,21 @@ public:
     ~QFontMetrics();
     QFontMetrics& operator=(const QFontMetrics& other);
 
+    //! Rows above the base line, and below it; the base line itself is in none of them, but in the height.
     int ascent() const;
     int descent() const;
     int height() const { return ascent() + descent() + 1; }
+    //! Rows between two lines of text.
     int leading() const;
     int lineSpacing() const { return leading() + height(); }
+    //! The least bearings of all letters, negative where letters reach over their widths; 0 at the most.
     int minLeftBearing() const;
     int minRightBearing() const;
     int maxWidth() const;
 
+    //! Whether the font has the character.
     bool inFont(QChar c) const;
+    //! Pixels between the letter and the edges of its width, negative where it reaches over them.
     int leftBearing(QChar c) const;
     int rightBearing(QChar c) const;
     //! How far the pen moves.
@@ -42,9 +48,11 @@ public:
     QSize size(int flags, const QString& text, int length = -1, int tabStops = 0, int* tabArray = 0,
                QTextParag** unused = 0) const;
 
+    //! Rows from the base line to a line under, over or through the text.
     int underlinePos() const;
     int overlinePos() const { return ascent() + 1; }
     int strikeOutPos() const;
+    //! How thick such a line is.
     int lineWidth() const;
 
 private:

@@ -36,6 +36,11 @@ private:
 
 } // namespace zeltk
 
+/*!
+ * \brief An array of values that can be copied byte by byte.
+ *
+ * Indexes are not checked. An array without elements is null.
+ */
 template <class type>
 class QMemArray
 {
@@ -62,6 +67,7 @@ public:
         return size <= 0xffffffffu / (uint)sizeof(type) && raw.resize(size * (uint)sizeof(type));
     }
     bool truncate(uint position) { return resize(position); }
+    //! All elements become the value, after a resize() if there is a new size; false if that fails.
     bool fill(const type& value, int newSize = -1)
     {
         const type filling(value); // which may be an element that resize() moves
@@ -71,23 +77,27 @@ public:
             data()[i] = filling;
         return true;
     }
+    //! Gives this copy elements of its own.
     virtual void detach() { raw.detach(); }
     QMemArray<type> copy() const
     {
         QMemArray<type> result;
         return result.duplicate(*this);
     }
+    //! Shares the elements of the other one from now on.
     QMemArray<type>& assign(const QMemArray<type>& other)
     {
         raw.share(other.raw);
         return *this;
     }
+    //! Takes copies of the elements.
     QMemArray<type>& duplicate(const QMemArray<type>& other) { return duplicate(other.data(), other.size()); }
     QMemArray<type>& duplicate(const type* values, uint size)
     {
         raw.assign((const char*)values, size * (uint)sizeof(type));
         return *this;
     }
+    //! The index of the first such element from that index on; -1 if there is none.
     int find(const type& value, uint index = 0) const
     {
         for (uint i = index; i < size(); ++i)

@@ -39,12 +39,17 @@ public:
     QPainter(const QPaintDevice* device, const QWidget* copyAttributes, bool unclipped = false);
     ~QPainter();
 
+    //! False, with a warning, if the painter is active, the device null or a null pixmap. `unclipped`:
+    //! children of the widget are painted over.
     bool begin(const QPaintDevice* device, bool unclipped = false);
     bool begin(const QPaintDevice* device, const QWidget* copyAttributes, bool unclipped = false);
+    //! False, with a warning, if the painter is not active.
     bool end();
     QPaintDevice* device() const;
     bool isActive() const;
+    //! Sends what was drawn to the X server.
     void flush();
+    //! Remember and bring back all that is set below. Warns if nothing was saved.
     void save();
     void restore();
 
@@ -60,8 +65,10 @@ public:
     void setBrush(const QBrush& brush);
     void setBrush(BrushStyle style);
     void setBrush(const QColor& color);
+    //! Where lineTo() begins.
     QPoint pos() const;
 
+    //! What text, dashes and patterns lie on in OpaqueMode.
     const QColor& backgroundColor() const;
     void setBackgroundColor(const QColor& color);
     BGMode backgroundMode() const;
@@ -72,7 +79,8 @@ public:
     void setBrushOrigin(int x, int y);
     void setBrushOrigin(const QPoint& p) { setBrushOrigin(p.x(), p.y()); }
 
-    //! The window lies over the viewport: the program's coordinates and the device's for the same area.
+    //! The window lies over the viewport: the program's coordinates and the device's for the same area. Both
+    //! are all of the device at first.
     bool hasViewXForm() const;
     void setViewXForm(bool enable);
     QRect window() const;
@@ -82,6 +90,7 @@ public:
     void setViewport(const QRect& rect);
     void setViewport(int x, int y, int w, int h) { setViewport(QRect(x, y, w, h)); }
 
+    //! Transforms coordinates before the window does.
     bool hasWorldXForm() const;
     void setWorldXForm(bool enable);
     const QWMatrix& worldMatrix() const;
@@ -103,6 +112,7 @@ public:
     QPointArray xFormDev(const QPointArray& points) const;
     QPointArray xFormDev(const QPointArray& points, int index, int count) const;
 
+    //! Setting a clip switches it on.
     void setClipping(bool enable);
     bool hasClipping() const;
     QRegion clipRegion(CoordinateMode mode = CoordDevice) const;
@@ -124,6 +134,7 @@ public:
     void drawLine(const QPoint& p1, const QPoint& p2) { drawLine(p1.x(), p1.y(), p2.x(), p2.y()); }
     void drawRect(int x, int y, int w, int h);
     void drawRect(const QRect& rect) { drawRect(rect.x(), rect.y(), rect.width(), rect.height()); }
+    //! A dotted outline, white on dark backgrounds, else black.
     void drawWinFocusRect(int x, int y, int w, int h);
     void drawWinFocusRect(int x, int y, int w, int h, const QColor& backgroundColor);
     void drawWinFocusRect(const QRect& r) { drawWinFocusRect(r.x(), r.y(), r.width(), r.height()); }
@@ -131,6 +142,7 @@ public:
     {
         drawWinFocusRect(r.x(), r.y(), r.width(), r.height(), backgroundColor);
     }
+    //! Roundness from 0, a rectangle, to 99, an ellipse.
     void drawRoundRect(int x, int y, int w, int h, int xRound = 25, int yRound = 25);
     void drawRoundRect(const QRect& r, int xRound = 25, int yRound = 25)
     {
@@ -162,8 +174,10 @@ public:
     {
         drawPolygon(points, true, index, count);
     }
+    //! Needs four points from the index on, else warns.
     void drawCubicBezier(const QPointArray& points, int index = 0);
 
+    //! A negative width or height means: up to the edge. Bitmaps show in the pen's and the background colour.
     void drawPixmap(int x, int y, const QPixmap& pixmap, int sx = 0, int sy = 0, int sw = -1, int sh = -1);
     void drawPixmap(const QPoint& p, const QPixmap& pixmap, const QRect& source)
     {
@@ -181,6 +195,7 @@ public:
     }
     void drawImage(const QPoint& p, const QImage& image, int conversionFlags = 0);
     void drawImage(const QRect& r, const QImage& image);
+    //! (sx, sy) of the pixmap comes to lie at the corner.
     void drawTiledPixmap(int x, int y, int w, int h, const QPixmap& pixmap, int sx = 0, int sy = 0);
     void drawTiledPixmap(const QRect& r, const QPixmap& pixmap, const QPoint& s)
     {
@@ -188,11 +203,13 @@ public:
     }
     void drawTiledPixmap(const QRect& r, const QPixmap& pixmap) { drawTiledPixmap(r, pixmap, QPoint()); }
 
+    //! Without an outline; the painter's brush stays.
     void fillRect(int x, int y, int w, int h, const QBrush& brush);
     void fillRect(const QRect& r, const QBrush& brush)
     {
         fillRect(r.x(), r.y(), r.width(), r.height(), brush);
     }
+    //! With the background colour.
     void eraseRect(int x, int y, int w, int h);
     void eraseRect(const QRect& r) { eraseRect(r.x(), r.y(), r.width(), r.height()); }
 
@@ -222,6 +239,7 @@ public:
     {
         return boundingRect(r.x(), r.y(), r.width(), r.height(), flags, text, length, unused);
     }
+    //! The distance of tabs in pixels; 0: eight times the width of an x.
     int tabStops() const;
     void setTabStops(int pixels);
     //! Places of tabs in pixels, ended by 0; copied.

@@ -44,15 +44,18 @@ public:
     bool isQBitmap() const;
     int serialNumber() const;
 
+    //! The mask stays. In bitmaps color0 and white are 0, all others 1.
     void fill(const QColor& color = Qt::white);
     //! With what the widget's background shows, when the pixmap's corner is at that place of the widget.
     void fill(const QWidget* widget, int xofs, int yofs);
     void fill(const QWidget* widget, const QPoint& ofs) { fill(widget, ofs.x(), ofs.y()); }
+    //! New pixels are undefined, and the mask goes. A size below 1 makes the pixmap null.
     void resize(int w, int h);
     void resize(const QSize& size) { resize(size.width(), size.height()); }
 
     //! Where the mask is 0 the pixmap is transparent. Null if it has none.
     const QBitmap* mask() const;
+    //! Warns, and nothing changes, if the mask has another size; a null one takes the mask away.
     void setMask(const QBitmap& mask);
     bool selfMask() const;
     bool hasAlpha() const { return mask() || selfMask(); }
@@ -72,9 +75,12 @@ public:
     bool load(const QString& fileName, const char* format = 0, ColorMode mode = Auto);
     bool save(const QString& fileName, const char* format, int quality = -1) const;
 
+    //! What the screen shows of a window and its children; -1 means up to its edge. What other windows cover
+    //! is undefined.
     static QPixmap grabWindow(WId window, int x = 0, int y = 0, int w = -1, int h = -1);
     static QPixmap grabWidget(QWidget* widget, int x = 0, int y = 0, int w = -1, int h = -1);
 
+    //! Gives this copy pixels of its own.
     virtual void detach();
 
 protected:

@@ -75,6 +75,13 @@ private:
 template <class type>
 class QPtrListIterator;
 
+/*!
+ * \brief A list of pointers with a current item.
+ *
+ * Functions that look for an item, add or replace one make it the current one; after a removal it is the next
+ * one, or the last. Indexes behind the end give null or false. With autoDelete() items that are removed or
+ * replaced are deleted, unless they are taken.
+ */
 template <class type>
 class QPtrList : public zeltk::PointerList
 {
@@ -92,6 +99,7 @@ public:
 
     bool isEmpty() const { return count() == 0; }
     bool insert(uint index, const type* item) { return insertItem(index, (Item)item); }
+    //! Before the first item that is not less by compareItems().
     void inSort(const type* item) { insertSorted((Item)item); }
     void prepend(const type* item) { insertItem(0, (Item)item); }
     void append(const type* item) { insertItem(count(), (Item)item); }
@@ -101,11 +109,14 @@ public:
     bool removeRef(const type* item) { return removeItem(indexOf((Item)item)); }
     bool removeFirst() { return removeItem(count() ? 0 : -1); }
     bool removeLast() { return removeItem((int)count() - 1); }
+    //! Removes an item without deleting it.
     type* take(uint index) { return (type*)takeItem(index < count() ? (int)index : -1); }
     type* take() { return (type*)takeItem(currentIndex()); }
     bool replace(uint index, const type* item) { return replaceItem(index, (Item)item); }
     void sort() { sortItems(); }
 
+    //! By compareItems(), or by address; from the start, or behind the current item. -1, and no item is
+    //! current, if there is none.
     int find(const type* item) { return findAndSet(findIndex((Item)item, 0, false)); }
     int findNext(const type* item) { return findAndSet(findIndex((Item)item, currentIndex() + 1, false)); }
     int findRef(const type* item) { return findAndSet(findIndex((Item)item, 0, true)); }
@@ -138,6 +149,7 @@ private:
     }
 };
 
+//! Starts at the first item. Beyond either end it is null, and stays there until toFirst() or toLast().
 template <class type>
 class QPtrListIterator : public zeltk::PointerIterator
 {

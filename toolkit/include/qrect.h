@@ -34,6 +34,7 @@ public:
     bool isNull() const { return width() == 0 && height() == 0; }
     bool isEmpty() const { return x1 > x2 || y1 > y2; }
     bool isValid() const { return x1 <= x2 && y1 <= y2; }
+    //! Left and right, top and bottom exchanged where they are in the wrong order.
     QRect normalize() const;
 
     int left() const { return x1; }
@@ -145,7 +146,9 @@ public:
         setHeight(size.height());
     }
 
+    //! The smallest rectangle around both; an invalid one adds nothing.
     QRect operator|(const QRect& other) const;
+    //! What both have in common; invalid if that is nothing.
     QRect operator&(const QRect& other) const;
     QRect& operator|=(const QRect& other) { return *this = *this | other; }
     QRect& operator&=(const QRect& other) { return *this = *this & other; }

@@ -20,7 +20,9 @@ public:
     int height() const { return ht; }
     void setWidth(int width) { wd = width; }
     void setHeight(int height) { ht = height; }
+    //! Exchanges width and height.
     void transpose();
+    //! To that size; ScaleMin and ScaleMax keep the proportions and stay inside it, or go round it.
     void scale(int width, int height, ScaleMode mode);
     void scale(const QSize& size, ScaleMode mode) { scale(size.wd, size.ht, mode); }
     QSize expandedTo(const QSize& other) const { return QSize(QMAX(wd, other.wd), QMAX(ht, other.ht)); }

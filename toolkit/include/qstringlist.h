@@ -22,6 +22,7 @@ public:
     }
 
     static QStringList fromStrList(const QStrList& list);
+    //! By the codes of the characters.
     void sort();
     //! The parts between separators; empty parts are left out unless they are asked for.
     static QStringList split(const QString& separator, const QString& text, bool allowEmptyEntries = false);
@@ -29,6 +30,7 @@ public:
     QString join(const QString& separator) const;
     //! The strings that contain the text.
     QStringList grep(const QString& text, bool caseSensitive = true) const;
+    //! Replaces the text in all strings.
     QStringList& gres(const QString& before, const QString& after, bool caseSensitive = true);
 };
 

@@ -1,3 +1,4 @@
+// Numbers as text and back.
 #include "tools/numbertext.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// QChar: what the Unicode tables of the C library know.
 #include <qstring.h>
 
 #include <clocale>

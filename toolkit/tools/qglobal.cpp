@@ -1,3 +1,4 @@
+// Messages and the version.
 #include <qglobal.h>
 
 #include <cstdarg>

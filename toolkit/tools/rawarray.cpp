@@ -1,3 +1,4 @@
+// What every QMemArray stands on.
 #include <qmemarray.h>
 
 #include <cstdlib>
@@ -6,6 +7,26 @@
 namespace zeltk
 {
 
+namespace
+{
+
+ArrayData* ensure(ArrayData*& d)
+{
+    if (!d)
+        d = new ArrayData{1, nullptr, 0};
+    return d;
+}
+
+void release(ArrayData* d)
+{
+    if (d && --d->references == 0) {
+        std::free(d->bytes);
+        delete d;
+    }
+}
+
+} // namespace
+
 // Arrays without data share nothing; a null pointer is an array of its own.
 RawArray::RawArray() : d(nullptr) {}
 
@@ -13,21 +34,6 @@ RawArray::RawArray(const RawArray& other) : d(nullptr)
 {
     // Two names of one null array must also share what comes later, so the first copy makes the data.
     share(other);
-}
-
-static ArrayData* ensure(ArrayData*& d)
-{
-    if (!d)
-        d = new ArrayData{1, nullptr, 0};
-    return d;
-}
-
-static void release(ArrayData* d)
-{
-    if (d && --d->references == 0) {
-        std::free(d->bytes);
-        delete d;
-    }
 }
 
 RawArray::~RawArray()

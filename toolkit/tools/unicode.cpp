@@ -1,3 +1,4 @@
+// Conversions between the toolkit's strings and those of the C++ library.
 #include "tools/unicode.h"
 
 namespace zeltk
