@@ -409,7 +409,9 @@ TEST_F(FontParameters, SlotsReadTheStateOfTheBoxes)
     for (QCheckBox* box : {italic, underline, strikeOut})
         box->setNoChange(); // anything but off counts
     dialog.italicClicked();
+    EXPECT_EQ(sample(), "Courier 14 50 i--");
     dialog.underlineClicked();
+    EXPECT_EQ(sample(), "Courier 14 50 iu-");
     dialog.strikeoutClicked();
     EXPECT_EQ(sample(), "Courier 14 50 ius");
     EXPECT_EQ(values(), "Courier 14 50 ius");
