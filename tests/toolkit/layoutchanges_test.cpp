@@ -140,6 +140,18 @@ TEST_F(Row, DeletedLayoutLeavesTheChildrenAlone)
     EXPECT_EQ(b->geometry(), QRect(0, 0, 60, 30));
 }
 
+TEST_F(Row, LayoutThatIsTakenAwayIsTheWidgetsNoMore)
+{
+    panel->removeChild(row);
+    EXPECT_EQ(panel->layout(), nullptr);
+    EXPECT_EQ(row->mainWidget(), nullptr);
+    EXPECT_FALSE(row->activate());
+    delete row;
+    EXPECT_FALSE(panel->sizeHint().isValid());
+    QVBoxLayout* const next = new QVBoxLayout(panel);
+    EXPECT_EQ(panel->layout(), next);
+}
+
 TEST_F(Row, SecondLayoutIsRefused)
 {
     QVBoxLayout second(panel, 1, 1, "second");

@@ -16,29 +16,29 @@ namespace
 class BoxIterator : public QGLayoutIterator
 {
 public:
-    explicit BoxIterator(BoxLayoutData* data) : data_(data) {}
+    explicit BoxIterator(BoxLayoutData* data) : m_data(data) {}
 
     QLayoutItem* next() override
     {
-        ++index_;
+        ++m_index;
         return current();
     }
     QLayoutItem* current() override
     {
-        return index_ < data_->items.size() ? data_->items[index_].item : nullptr;
+        return m_index < m_data->items.size() ? m_data->items[m_index].item : nullptr;
     }
     QLayoutItem* takeCurrent() override
     {
         QLayoutItem* const item = current();
         if (item)
-            data_->items.erase(data_->items.begin() + static_cast<std::ptrdiff_t>(index_));
-        data_->dirty = true;
+            m_data->items.erase(m_data->items.begin() + static_cast<std::ptrdiff_t>(m_index));
+        m_data->dirty = true;
         return item;
     }
 
 private:
-    BoxLayoutData* data_;
-    size_t index_ = 0;
+    BoxLayoutData* m_data;
+    size_t m_index = 0;
 };
 
 void shape(QSpacerItem* spacer, const zeltk::OwnSpacer& as, bool horizontal)

@@ -52,28 +52,28 @@ Share shareOf(const BoxItem& box, bool horizontal)
 class Extent
 {
 public:
-    Extent(bool horizontal, int across) : horizontal_(horizontal), across_(across) {}
+    Extent(bool horizontal, int across) : m_horizontal(horizontal), m_across(across) {}
 
-    void add(int along) { along_ = QMIN(along_ + along, QLAYOUTSIZE_MAX); }
-    void atLeast(const QSize& item) { across_ = QMAX(across_, side(item)); }
+    void add(int along) { m_along = QMIN(m_along + along, QLAYOUTSIZE_MAX); }
+    void atLeast(const QSize& item) { m_across = QMAX(m_across, side(item)); }
     // Where some expand the others do not hold them back.
     void atMost(const QSize& item, bool expands)
     {
-        if (expands != expanding_ && expands)
-            across_ = side(item);
-        else if (expands == expanding_)
-            across_ = expands ? QMAX(across_, side(item)) : QMIN(across_, side(item));
-        expanding_ = expanding_ || expands;
+        if (expands != m_expanding && expands)
+            m_across = side(item);
+        else if (expands == m_expanding)
+            m_across = expands ? QMAX(m_across, side(item)) : QMIN(m_across, side(item));
+        m_expanding = m_expanding || expands;
     }
-    QSize size() const { return horizontal_ ? QSize(along_, across_) : QSize(across_, along_); }
+    QSize size() const { return m_horizontal ? QSize(m_along, m_across) : QSize(m_across, m_along); }
 
 private:
-    int side(const QSize& item) const { return bounded(horizontal_ ? item.height() : item.width()); }
+    int side(const QSize& item) const { return bounded(m_horizontal ? item.height() : item.width()); }
 
-    bool horizontal_;
-    bool expanding_ = false;
-    int along_ = 0;
-    int across_;
+    bool m_horizontal;
+    bool m_expanding = false;
+    int m_along = 0;
+    int m_across;
 };
 
 } // namespace

@@ -23,6 +23,11 @@ void invalidateAll(QLayoutItem* item)
     item->invalidate();
 }
 
+bool isRemovalOf(const QObject* child, QEvent* event)
+{
+    return event->type() == QEvent::ChildRemoved && static_cast<QChildEvent*>(event)->child() == child;
+}
+
 bool takeItem(QLayout* layout, const QLayoutItem* item)
 {
     QLayoutIterator it = layout->iterator();
@@ -282,6 +287,11 @@ bool QLayout::isEnabled() const
 
 bool QLayout::eventFilter(QObject* watched, QEvent* event)
 {
+    if (topLevel && isRemovalOf(this, event)) { // the main widget has it no more
+        topLevel = false;
+        zeltk::dataOf(static_cast<QWidget*>(watched))->layout = nullptr;
+        return false;
+    }
     if (!enabled || watched != parent())
         return false;
     switch (event->type()) {

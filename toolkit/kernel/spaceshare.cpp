@@ -14,23 +14,23 @@ using Row = std::vector<Share>;
 class Divider
 {
 public:
-    Divider(int whole, long long weights) : whole_(whole), weights_(weights) {}
+    Divider(int whole, long long weights) : m_whole(whole), m_weights(weights) {}
 
     int next(int weight)
     {
         const int before = pixels();
-        edge_ += whole_ * fraction * weight / weights_;
+        m_edge += m_whole * fraction * weight / m_weights;
         return pixels() - before;
     }
 
 private:
     static constexpr long long fraction = 256;
 
-    int pixels() const { return static_cast<int>((edge_ + fraction / 2) / fraction); }
+    int pixels() const { return static_cast<int>((m_edge + fraction / 2) / fraction); }
 
-    int whole_;
-    long long weights_;
-    long long edge_ = 0;
+    int m_whole;
+    long long m_weights;
+    long long m_edge = 0;
 };
 
 // With stretch the hint does not count: the stretch alone says how the room is shared.
