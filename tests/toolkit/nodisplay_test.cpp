@@ -68,6 +68,13 @@ TEST(Display, CanBeNamedInTheCommandLine)
     program.exitStatus();
 }
 
+TEST(Display, ASecondApplicationStartsAfresh)
+{
+    Program program(getenv("DISPLAY"), {"--twice"});
+    EXPECT_EQ("override cursor 0, main widget 0\n", program.rest());
+    EXPECT_EQ(0, program.exitStatus());
+}
+
 TEST(LostDisplay, EndsTheProgramWithAMessage)
 {
     Program program(getenv("DISPLAY"), {});

@@ -131,6 +131,8 @@ QApplication::~QApplication()
     app->closing = true;
     delete app->desktop;
     app->desktop = nullptr;
+    app->mainWidget = nullptr;
+    app->overrideCursors.clear();
     app->translators.clear();
     app->loop = nullptr;
     qApp = nullptr;

@@ -1,7 +1,9 @@
 // A program with one window, for tests that look at a program from outside. It prints the window's number.
 // With --console as first argument it has no window and ends by itself; with --window it tries to make one
-// nevertheless. With --texts its window shows texts of several fonts, and it ends by itself.
+// nevertheless. With --texts its window shows texts of several fonts, and it ends by itself. With --twice it
+// makes two applications, one after the other.
 #include <qapplication.h>
+#include <qcursor.h>
 #include <qlabel.h>
 #include <qpushbutton.h>
 #include <qtimer.h>
@@ -40,8 +42,27 @@ static int showTexts(int argc, char** argv)
     return 0;
 }
 
+// The second application tells what is left of the first.
+static int runTwice(int argc, char** argv)
+{
+    QWidget* window;
+    {
+        QApplication first(argc, argv);
+        QApplication::setOverrideCursor(QCursor(Qt::WaitCursor));
+        window = new QWidget;
+        first.setMainWidget(window);
+    }
+    QApplication second(argc, argv);
+    std::printf("override cursor %d, main widget %d\n", QApplication::overrideCursor() != 0,
+                second.mainWidget() != 0);
+    delete window;
+    return 0;
+}
+
 int main(int argc, char** argv)
 {
+    if (argc > 1 && !std::strcmp(argv[1], "--twice"))
+        return runTwice(argc, argv);
     if (argc > 1 && (!std::strcmp(argv[1], "--console") || !std::strcmp(argv[1], "--window")))
         return runOnConsole(argc, argv, !std::strcmp(argv[1], "--window"));
     if (argc > 1 && !std::strcmp(argv[1], "--texts"))
