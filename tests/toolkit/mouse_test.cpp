@@ -59,7 +59,7 @@ void sendClick(QWidget* widget, unsigned button, Time time)
     event.type = ButtonPress;
     XSendEvent(display, widget->winId(), False, ButtonPressMask, &event);
     event.type = ButtonRelease;
-    event.xbutton.state = button > 0 ? Button1Mask << (button - 1) : 0;
+    event.xbutton.state = button >= 1 && button <= 5 ? Button1Mask << (button - 1) : 0;
     XSendEvent(display, widget->winId(), False, ButtonReleaseMask, &event);
     XCloseDisplay(display);
 }
