@@ -1,4 +1,5 @@
 // Scroll bars: places, mouse, wheel, keys and the signals they cause.
+#include "perishable.h"
 #include "pixels.h"
 #include "printers.h"
 #include "signalrecorder.h"
@@ -7,6 +8,7 @@
 
 #include <gtest/gtest.h>
 #include <qapplication.h>
+#include <qguardedptr.h>
 #include <qscrollbar.h>
 
 #include <X11/keysym.h>
@@ -41,6 +43,21 @@ protected:
     QWidget window;
     QScrollBar bar;
     SignalRecorder recorder;
+};
+
+// Deletes the scroll bar that is painted next.
+class PaintEnds : public QObject
+{
+public:
+    explicit PaintEnds(QScrollBar* watched) : bar(watched) { bar->installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() != QEvent::Paint)
+            return false;
+        delete bar;
+        return true;
+    }
+    QGuardedPtr<QScrollBar> bar;
 };
 
 } // namespace
@@ -321,6 +338,23 @@ TEST(ScrollBarDeletion, MayBeDeletedByTheReceiverOfAnySignal)
         EXPECT_EQ(recorder.count(), 1) << each.signal;
         delete bar;
     }
+}
+
+TEST(ScrollBarDeletion, MayBeDeletedByAFilterThatHearsItPaint)
+{
+    QWidget window;
+    window.setGeometry(100, 100, 220, 60);
+    QScrollBar* bar = new Perishable<QScrollBar>(0, 100, 5, 20, 30, Qt::Horizontal, &window);
+    bar->setGeometry(10, 20, 200, 16);
+    showAndActivate(&window);
+    settle();
+    SignalRecorder recorder;
+    recorder.watch(bar, SIGNAL(valueChanged(int)));
+    const PaintEnds ends(bar);
+    bar->setValue(40);
+    EXPECT_TRUE(ends.bar.isNull());
+    EXPECT_EQ(recorder.count(), 0);
+    Graveyard::clear();
 }
 
 TEST(ScrollBarSize, IsSixteenAcross)

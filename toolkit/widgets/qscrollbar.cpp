@@ -6,6 +6,7 @@
 #include "widgets/scrollbardata.h"
 
 #include <qevent.h>
+#include <qguardedptr.h>
 #include <qpainter.h>
 
 #include <algorithm>
@@ -157,8 +158,10 @@ void QScrollBar::valueChange()
 {
     if (!draggingSlider())
         positionSliderFromValue();
+    const QGuardedPtr<QScrollBar> alive(this);
     repaint(false);
-    emit valueChanged(value());
+    if (alive)
+        emit valueChanged(value());
 }
 
 void QScrollBar::rangeChange()
