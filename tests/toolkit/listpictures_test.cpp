@@ -1,4 +1,5 @@
 // Entries of list boxes and combo boxes that show pictures, and entries from lists.
+#include "pixels.h"
 #include "waiting.h"
 
 #include <gtest/gtest.h>
@@ -48,7 +49,42 @@ TEST(ListBoxItems, ArePlacedWhenTheyAreMade)
     EXPECT_EQ("first second third +fourth + + +last", entries(box));
     EXPECT_EQ(box.item(1), box.item(2)->prev());
     EXPECT_FALSE(box.item(0)->prev());
+    EXPECT_EQ(box.item(2), box.item(1)->next());
+    EXPECT_FALSE(box.item(6)->next());
     EXPECT_EQ(first, box.firstItem());
+}
+
+TEST(ListBoxItems, ShowTheirPicturesBesideTheirTexts)
+{
+    QListBox box(nullptr, "box");
+    box.setGeometry(100, 100, 200, 200);
+    box.insertItem(picture(20, 30));
+    box.insertItem(picture(20, 30), "text");
+    showAndWait(&box);
+    const Pixels shown = Pixels::of(box.viewport());
+    EXPECT_EQ(2u * 20 * 30, static_cast<unsigned>(shown.count(0xff0000)));
+    const int height = box.itemHeight();
+    EXPECT_GE(height, 30);
+    const int beside = shown.width() - 30;
+    const unsigned paper = 0xffffff;
+    EXPECT_EQ(beside * height, shown.part(30, 0, beside, height).count(paper));
+    EXPECT_LT(shown.part(30, height, beside, height).count(paper), beside * height) << "the text";
+}
+
+TEST(ListBoxItems, WantRoomForThreeToTenOfThem)
+{
+    QListBox box(nullptr, "box");
+    const int frame = 2 * box.frameWidth();
+    box.insertItem("one");
+    const int height = box.itemHeight();
+    EXPECT_EQ(3 * height + frame, box.sizeHint().height());
+    for (int i = 0; i < 4; ++i)
+        box.insertItem("more");
+    EXPECT_EQ(5 * height + frame, box.sizeHint().height());
+    for (int i = 0; i < 40; ++i)
+        box.insertItem("A text that is much longer than ten letters");
+    EXPECT_EQ(10 * height + frame, box.sizeHint().height());
+    EXPECT_GT(box.sizeHint().width(), box.fontMetrics().width("A text that is much longer"));
 }
 
 TEST(ListBoxItems, AreMadeFirstAndInsertedLater)

@@ -357,6 +357,18 @@ TEST(ScrollBarDeletion, MayBeDeletedByAFilterThatHearsItPaint)
     Graveyard::clear();
 }
 
+TEST_F(ScrollBar, MayBeTurned)
+{
+    bar.setOrientation(Qt::Vertical);
+    EXPECT_EQ(Qt::Vertical, bar.orientation());
+    bar.setGeometry(10, 0, 16, 60);
+    EXPECT_EQ(QSizePolicy::Fixed, bar.sizePolicy().horData());
+    EXPECT_LT(bar.sizeHint().width(), bar.sizeHint().height() + 1);
+    settle();
+    xinput::click(&bar, 8, 55);
+    EXPECT_EQ(heard(), "valueChanged(35) nextLine");
+}
+
 TEST(ScrollBarSize, IsSixteenAcross)
 {
     EXPECT_EQ(QScrollBar(Qt::Horizontal, nullptr).sizeHint(), QSize(30, 16));

@@ -1,11 +1,15 @@
 // A scroll view in the hands of its program.
 #include "printers.h"
 #include "waiting.h"
+#include "xinput.h"
 
 #include <gtest/gtest.h>
+#include <qevent.h>
 #include <qpainter.h>
 #include <qscrollbar.h>
 #include <qscrollview.h>
+
+#include <string>
 
 namespace
 {
@@ -32,7 +36,88 @@ protected:
     }
 };
 
+// Writes down what the pointer does, in the places of the contents.
+class ClickedView : public View
+{
+public:
+    std::string heard;
+
+protected:
+    void contentsMousePressEvent(QMouseEvent* event) override { note("press", event); }
+    void contentsMouseReleaseEvent(QMouseEvent* event) override { note("release", event); }
+    void contentsMouseDoubleClickEvent(QMouseEvent* event) override { note("double", event); }
+    void contentsMouseMoveEvent(QMouseEvent* event) override { note("move", event); }
+
+private:
+    void note(const char* what, QMouseEvent* event)
+    {
+        heard +=
+            std::string(what) + " " + std::to_string(event->x()) + "," + std::to_string(event->y()) + "; ";
+    }
+};
+
+// Notes what its children do not want.
+class Parent : public QWidget
+{
+public:
+    std::string heard;
+
+protected:
+    void mousePressEvent(QMouseEvent*) override { heard += "press "; }
+    void mouseReleaseEvent(QMouseEvent*) override { heard += "release "; }
+    void mouseDoubleClickEvent(QMouseEvent*) override { heard += "double "; }
+    void mouseMoveEvent(QMouseEvent*) override { heard += "move "; }
+};
+
 } // namespace
+
+TEST(ScrollViewCalls, ThePointerIsToldInPlacesOfTheContents)
+{
+    ClickedView view;
+    view.setContentsPos(30, 40);
+    xinput::doubleClick(view.viewport(), 5, 6);
+    settle();
+    EXPECT_EQ("press 35,46; release 35,46; double 35,46; release 35,46; ", view.heard);
+    view.heard.clear();
+    xinput::pressButton();
+    xinput::moveTo(view.viewport(), 8, 7);
+    xinput::releaseButton();
+    settle();
+    EXPECT_NE(std::string::npos, view.heard.find("move 38,47; release 38,47; ")) << view.heard;
+}
+
+TEST(ScrollViewCalls, WhatThePointerDoesGoesOnToTheParent)
+{
+    Parent window;
+    window.setGeometry(100, 100, 200, 200);
+    QScrollView view(&window);
+    view.setGeometry(0, 0, 150, 150);
+    showAndWait(&window);
+    xinput::doubleClick(view.viewport(), 50, 50);
+    settle();
+    EXPECT_EQ("press release double release ", window.heard);
+    window.heard.clear();
+    xinput::pressButton();
+    xinput::moveTo(view.viewport(), 60, 50);
+    xinput::releaseButton();
+    settle();
+    EXPECT_NE(std::string::npos, window.heard.find("move release ")) << window.heard;
+}
+
+TEST(ScrollViewCalls, WantRoomForTheContentsWithinLimits)
+{
+    QScrollView view;
+    view.setFrameStyle(QFrame::NoFrame);
+    const int line = view.fontMetrics().height();
+    EXPECT_EQ(QSize(12 * line, 8 * line), view.sizeHint());
+    view.resizeContents(20 * line, 10 * line);
+    EXPECT_EQ(QSize(20 * line, 10 * line), view.sizeHint());
+    view.setFrameStyle(QFrame::Box | QFrame::Plain);
+    view.setLineWidth(3);
+    EXPECT_EQ(QSize(20 * line + 6, 10 * line + 6), view.sizeHint());
+    view.resizeContents(500 * line, 500 * line);
+    EXPECT_EQ(QSize(36 * line, 24 * line), view.sizeHint());
+}
 
 TEST(ScrollViewCalls, TellAndChangeThePlace)
 {
