@@ -161,6 +161,46 @@ TEST(Application, FontsCanBeSetForAClass)
     QApplication::setFont(before, true, "QDesktopWidget");
 }
 
+TEST(Application, WidgetsOfAClassHaveItsLookWhateverTheirParents)
+{
+    const QFont font = QApplication::font();
+    const QPalette palette = QApplication::palette();
+    QPalette green(palette);
+    green.setColor(QColorGroup::Text, Qt::green);
+    QWidget window;
+    QLabel label("old", &window);
+    QLabel own("own", &window);
+    own.setFont(QFont("DejaVu Sans", 7));
+    QWidget other(&window);
+    QWidget inside(&label);
+    QApplication::setFont(QFont("DejaVu Sans", 20), true, "QLabel");
+    QApplication::setPalette(green, true, "QLabel");
+    EXPECT_EQ(20, label.font().pointSize());
+    EXPECT_EQ(20, inside.font().pointSize());
+    EXPECT_EQ(7, own.font().pointSize());
+    EXPECT_EQ(font.pointSize(), other.font().pointSize());
+    EXPECT_EQ(Qt::green, label.palette().active().text());
+    EXPECT_EQ(Qt::black, other.palette().active().text());
+
+    window.setFont(QFont("DejaVu Sans", 11));
+    window.setPalette(QPalette(Qt::gray));
+    EXPECT_EQ(20, label.font().pointSize());
+    EXPECT_EQ(11, other.font().pointSize());
+    EXPECT_EQ(Qt::green, label.palette().active().text());
+
+    QLabel young("new", &window);
+    young.polish();
+    EXPECT_EQ(20, young.font().pointSize());
+    EXPECT_EQ(Qt::green, young.palette().active().text());
+
+    QApplication::setFont(font, true);
+    QApplication::setPalette(palette, true);
+    EXPECT_EQ(11, label.font().pointSize());
+    EXPECT_EQ(11, inside.font().pointSize());
+    EXPECT_EQ(7, own.font().pointSize());
+    EXPECT_EQ(Qt::black, label.palette().active().text());
+}
+
 TEST(Application, ALookForAllReplacesThoseOfClasses)
 {
     const QFont font = QApplication::font();

@@ -58,8 +58,10 @@ public:
     static bool hasGlobalMouseTracking();
     static void setGlobalMouseTracking(bool enable);
 
-    //! The application's palette, or the one a widget of that class starts with. One that is set without a
-    //! class replaces those of all classes. Widgets that are there already follow if they are informed.
+    //! The application's palette, or the one of widgets of that class, which they have instead of their
+    //! parent's unless they have one of their own; new ones have it once they are polished. One that is set
+    //! without a class replaces those of all classes. Widgets that are there already follow if they are
+    //! informed.
     static QPalette palette(const QWidget* widget = 0);
     static void setPalette(const QPalette& palette, bool informWidgets = false, const char* className = 0);
     static QFont font(const QWidget* widget = 0);

@@ -37,21 +37,35 @@ const Value* valueForClass(const std::map<std::string, Value>& values, const QWi
 
 } // namespace
 
+namespace zeltk
+{
+
+const QPalette* classPalette(const QWidget* widget)
+{
+    return valueForClass(classPalettes(), widget);
+}
+
+const QFont* classFont(const QWidget* widget)
+{
+    return valueForClass(classFonts(), widget);
+}
+
+} // namespace zeltk
+
 QPalette QApplication::palette(const QWidget* widget)
 {
-    const QPalette* special = valueForClass(classPalettes(), widget);
+    const QPalette* special = zeltk::classPalette(widget);
     return special ? *special : zeltk::defaultPalette();
 }
 
 namespace
 {
 
-// Windows take the new look, their children from them.
 void informWidgets(const char* className)
 {
     const std::vector<QWidget*>& all = zeltk::everyWidget();
     for (const QGuardedPtr<QWidget>& widget : std::vector<QGuardedPtr<QWidget>>(all.begin(), all.end()))
-        if (widget && (widget->isTopLevel() || (className && widget->inherits(className))))
+        if (widget && (!className || widget->inherits(className)))
             zeltk::inheritLook(widget);
 }
 
@@ -101,7 +115,7 @@ void ensureStyled()
 
 QFont QApplication::font(const QWidget* widget)
 {
-    const QFont* special = valueForClass(classFonts(), widget);
+    const QFont* special = zeltk::classFont(widget);
     return special ? *special : zeltk::defaultFont();
 }
 

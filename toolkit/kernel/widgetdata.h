@@ -103,6 +103,9 @@ const std::vector<QWidget*>& everyWidget();
 // Palette and font of a new or moved widget, from its parent or the application.
 void inheritLook(QWidget* widget);
 void inheritFont(QWidget* widget);
+// What the program set for a class that the widget inherits; null if there is none.
+const QPalette* classPalette(const QWidget* widget);
+const QFont* classFont(const QWidget* widget);
 // Whether the background comes from a role of the palette.
 bool isPaletteMode(Qt::BackgroundMode mode);
 // Sets the window's background from its mode and colours.

@@ -11,8 +11,11 @@ using zeltk::WidgetData;
 namespace
 {
 
+// What is set for its class goes before its parent's.
 QFont inheritedFont(const QWidget* widget)
 {
+    if (const QFont* special = zeltk::classFont(widget))
+        return *special;
     const QWidget* parent = widget->parentWidget(true);
     return parent ? dataOf(parent)->font : QApplication::font(widget);
 }
@@ -32,8 +35,8 @@ void changeFont(QWidget* widget, const QFont& font)
         QApplication::sendEvent(child, &news);
         if (!child)
             continue;
-        if (dataOf(child)->ownFont) {
-            changeFont(child, dataOf(child)->askedFont.resolve(font));
+        if (dataOf(child)->ownFont || zeltk::classFont(child)) {
+            zeltk::inheritFont(child);
             continue;
         }
         child->setFont(font);

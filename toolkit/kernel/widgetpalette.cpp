@@ -13,8 +13,11 @@ using zeltk::WidgetData;
 namespace
 {
 
+// What is set for its class goes before its parent's.
 QPalette inheritedPalette(const QWidget* widget)
 {
+    if (const QPalette* special = zeltk::classPalette(widget))
+        return *special;
     const QWidget* parent = widget->parentWidget(true);
     return parent ? parent->palette() : QApplication::palette(widget);
 }
@@ -31,7 +34,7 @@ void changePalette(QWidget* widget, const QPalette& wanted)
     zeltk::applyBackground(widget);
     const QGuardedPtr<QWidget> alive(widget);
     for (const QGuardedPtr<QWidget>& child : zeltk::guardedChildren(widget)) {
-        if (!child || child->isTopLevel() || child->ownPalette())
+        if (!child || child->isTopLevel() || child->ownPalette() || zeltk::classPalette(child))
             continue;
         child->setPalette(palette);
         if (child)

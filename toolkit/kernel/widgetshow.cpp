@@ -195,6 +195,8 @@ void QWidget::polish()
     setWState(WState_Polished);
     const QGuardedPtr<QWidget> alive(this);
     zeltk::ensureStyled();
+    if (alive && (zeltk::classFont(this) || zeltk::classPalette(this)))
+        zeltk::inheritLook(this); // its constructor did not know yet of what class it is
     if (alive)
         qApp->polish(this);
 }
