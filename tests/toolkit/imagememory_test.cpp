@@ -20,7 +20,9 @@ struct LittleMemory {
 
 } // namespace
 
-void* operator new(size_t size)
+// Not inline: a compiler that sees only one of the pair at a place takes the two for unequal.
+
+__attribute__((noinline)) void* operator new(size_t size)
 {
     void* const block = size > largestBlock ? nullptr : std::malloc(size);
     if (!block)
@@ -28,12 +30,12 @@ void* operator new(size_t size)
     return block;
 }
 
-void operator delete(void* block) noexcept
+__attribute__((noinline)) void operator delete(void* block) noexcept
 {
     std::free(block);
 }
 
-void operator delete(void* block, size_t) noexcept
+__attribute__((noinline)) void operator delete(void* block, size_t) noexcept
 {
     std::free(block);
 }
