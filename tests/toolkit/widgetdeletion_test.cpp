@@ -104,7 +104,6 @@ private:
         {
             Family family(&death);
             prepare(family);
-            settle();
             death.victim = family.*victim;
             death.left = last;
             doIt(family);
@@ -114,7 +113,6 @@ private:
             death.left = 0;
             xinput::releaseAll();
         }
-        settle();
         return happened;
     }
 };
@@ -124,7 +122,10 @@ const Action nothing = [](Family&) {};
 const Action showAll = [](Family& family) {
     xinput::park();
     family.second->show();
-    showAndActivate(family.window);
+    family.window->show();
+    family.window->setActiveWindow();
+    waitFor([&] { return family.window->isActiveWindow(); });
+    settle();
 };
 
 } // namespace

@@ -144,7 +144,7 @@ void widgetLeavesPlace(QWidget* widget, bool leavesWindow)
     const QWidget* holder = application()->focus;
     while (holder && holder != widget && !holder->isTopLevel())
         holder = holder->parentWidget();
-    if (leavesWindow && holder == widget)
+    if (leavesWindow && holder && holder == widget)
         moveFocus(nullptr, QFocusEvent::Other);
     if (alive)
         forgetGrabs(widget);

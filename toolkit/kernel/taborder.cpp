@@ -14,12 +14,23 @@ bool takesTab(const QWidget* widget)
            widget->isVisibleTo(widget->topLevelWidget()) && !widget->focusProxy();
 }
 
-// Nobody who is about to die with a parent comes back.
+namespace
+{
+
+// With a parent, perhaps.
+bool isDying(const QWidget* widget)
+{
+    const QWidget* const parent = widget->parentWidget(true);
+    return dataOf(widget)->dying || (parent && isDying(parent));
+}
+
+} // namespace
+
+// Nobody who is about to die comes back.
 void joinTabOrder(QWidget* widget)
 {
-    for (const QWidget* each = widget; each; each = each->parentWidget(true))
-        if (dataOf(each)->dying)
-            return;
+    if (isDying(widget))
+        return;
     std::vector<QWidget*>& order = dataOf(widget->topLevelWidget())->tabOrder;
     if (widget->focusPolicy() != QWidget::NoFocus &&
         std::find(order.begin(), order.end(), widget) == order.end())

@@ -29,7 +29,8 @@ void changePalette(QWidget* widget, const QPalette& wanted)
     if (data->palette == wanted)
         return;
     const QPalette old = data->palette;
-    const QPalette palette = wanted; // it may be another widget's, which somebody who is told deletes
+    // It may be another widget's, which somebody who is told deletes.
+    const QPalette palette = wanted; // NOLINT(performance-unnecessary-copy-initialization)
     data->palette = palette;
     zeltk::applyBackground(widget);
     const QGuardedPtr<QWidget> alive(widget);

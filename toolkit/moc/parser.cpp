@@ -181,7 +181,9 @@ private:
                 next();
             } else {
                 const bool continued = at().is("::") || (!name.empty() && name.back() == ':');
-                name = continued ? name + at().text : at().text;
+                if (!continued)
+                    name.clear();
+                name += at().text;
                 next();
             }
         }

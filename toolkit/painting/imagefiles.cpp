@@ -85,6 +85,7 @@ bool QImage::loadFromData(const uchar* bytes, uint length, const char* format)
     return true;
 }
 
+// Qt takes the array by value. NOLINTNEXTLINE(performance-unnecessary-value-param)
 bool QImage::loadFromData(QByteArray data, const char* format)
 {
     return loadFromData(reinterpret_cast<const uchar*>(data.data()), data.size(), format);

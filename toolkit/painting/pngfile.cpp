@@ -99,9 +99,9 @@ bool writeAll(png_structp png, png_infop info, const PngPicture& picture, png_by
 
 std::vector<png_bytep> rowsOf(png_bytep bytes, size_t length, int height)
 {
-    std::vector<png_bytep> rows;
-    for (int y = 0; y < height; ++y)
-        rows.push_back(bytes + static_cast<size_t>(y) * length);
+    std::vector<png_bytep> rows(static_cast<size_t>(height));
+    for (size_t y = 0; y < rows.size(); ++y)
+        rows[y] = bytes + y * length;
     return rows;
 }
 

@@ -246,14 +246,14 @@ QRgb QImage::pixel(int x, int y) const
 {
     if (!isWithin(*this, "pixel", x, y))
         return outsideColor;
-    return d->pixels[static_cast<size_t>(y * d->width + x)];
+    return d->pixels[static_cast<size_t>(y) * static_cast<size_t>(d->width) + static_cast<size_t>(x)];
 }
 
 void QImage::setPixel(int x, int y, uint pixel)
 {
     if (!isWithin(*this, "setPixel", x, y))
         return;
-    d->pixels[static_cast<size_t>(y * d->width + x)] = pixel;
+    d->pixels[static_cast<size_t>(y) * static_cast<size_t>(d->width) + static_cast<size_t>(x)] = pixel;
 }
 
 int QImage::pixelIndex(int x, int y) const

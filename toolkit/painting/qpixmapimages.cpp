@@ -41,9 +41,8 @@ std::vector<uchar> alphaOf(const QImage& image)
 // Pixels less than half opaque are transparent.
 QBitmap maskOf(const std::vector<uchar>& alpha, int width, int height)
 {
-    std::vector<std::uint32_t> opaque;
-    for (const uchar value : alpha)
-        opaque.push_back(value >= 128);
+    std::vector<std::uint32_t> opaque(alpha.size());
+    std::transform(alpha.begin(), alpha.end(), opaque.begin(), [](uchar value) { return value >= 128; });
     QBitmap mask(width, height);
     x11::writePixels(mask.handle(), true, opaque.data(), width, height);
     return mask;

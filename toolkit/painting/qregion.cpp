@@ -209,7 +209,7 @@ QRegion::QRegion(const QBitmap& bitmap) : d(emptyData())
     for (int y = 0; y < bitmap.height() && !bits.empty(); ++y) {
         zeltk::Spans spans;
         for (int x = 0; x < bitmap.width(); ++x) {
-            if (!bits[static_cast<size_t>(y * bitmap.width() + x)])
+            if (!bits[static_cast<size_t>(y) * static_cast<size_t>(bitmap.width()) + static_cast<size_t>(x)])
                 continue;
             if (!spans.empty() && spans.back().behind == x)
                 ++spans.back().behind;

@@ -108,7 +108,7 @@ void drawCheckIndicator(QPainter* p, const QRect& r, const QColorGroup& g, const
         return;
     }
     const bool sunken = look.on != look.down;
-    const QBrush fill = g.brush(sunken ? QColorGroup::Mid : QColorGroup::Button);
+    const QBrush& fill = g.brush(sunken ? QColorGroup::Mid : QColorGroup::Button);
     qDrawShadePanel(p, r, g, sunken, frameWidth, &fill);
 }
 

@@ -20,13 +20,15 @@ char* qstrdup(const char* text)
 {
     if (!text)
         return nullptr;
-    char* copy = new char[std::strlen(text) + 1];
-    return std::strcpy(copy, text);
+    return qstrcpy(new char[std::strlen(text) + 1], text);
 }
 
 char* qstrcpy(char* destination, const char* source)
 {
-    return source ? std::strcpy(destination, source) : nullptr;
+    if (!source)
+        return nullptr;
+    std::memcpy(destination, source, std::strlen(source) + 1);
+    return destination;
 }
 
 char* qstrncpy(char* destination, const char* source, uint size)

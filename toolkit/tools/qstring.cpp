@@ -297,6 +297,7 @@ QString& QString::remove(uint index, uint count)
 
 QString& QString::replace(uint index, uint count, const QString& text)
 {
+    // It may be this one. NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
     const QString replacement(text);
     remove(index, count);
     return insert(index, replacement);
@@ -304,6 +305,7 @@ QString& QString::replace(uint index, uint count, const QString& text)
 
 QString& QString::replace(const QString& before, const QString& after, bool caseSensitive)
 {
+    // They may be this one. NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
     const QString search(before), replacement(after);
     if (isEmpty())
         return *this;

@@ -57,7 +57,7 @@ void QComboBox::keyPressEvent(QKeyEvent* event)
         popup();
         return;
     }
-    int chosen = d->current;
+    int chosen;
     if (key == Key_Up)
         chosen = std::max(0, d->current - 1);
     else if (key == Key_Down)

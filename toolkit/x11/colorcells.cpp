@@ -4,6 +4,7 @@
 #include "x11/connection.h"
 #include "x11/xlib.h"
 
+#include <algorithm>
 #include <unordered_map>
 #include <vector>
 
@@ -64,18 +65,15 @@ unsigned long nearestCell(std::uint32_t rgb)
         const long d = static_cast<long>(a >> shift & 0xff) - static_cast<long>(b >> shift & 0xff);
         return d * d;
     };
-    const XColor* best = nullptr;
-    long least = 0;
-    for (const XColor& cell : table) {
+    const auto distance = [&](const XColor& cell) {
         const std::uint32_t other = rgbOf(cell);
-        const long far = difference(rgb, other, 16) + difference(rgb, other, 8) + difference(rgb, other, 0);
-        if (!best || far < least) {
-            best = &cell;
-            least = far;
-        }
-    }
-    XColor shared = *best;
-    return XAllocColor(display(), colormap(), &shared) ? shared.pixel : best->pixel;
+        return difference(rgb, other, 16) + difference(rgb, other, 8) + difference(rgb, other, 0);
+    };
+    const XColor& best = *std::min_element(table.begin(), table.end(), [&](const XColor& a, const XColor& b) {
+        return distance(a) < distance(b);
+    });
+    XColor shared = best;
+    return XAllocColor(display(), colormap(), &shared) ? shared.pixel : best.pixel;
 }
 
 } // namespace

@@ -8,7 +8,7 @@
 #include <memory>
 #include <vector>
 
-struct _XGC; // behind the type GC of Xlib
+struct _XGC; // behind the type GC of Xlib. NOLINT(bugprone-reserved-identifier)
 
 namespace zeltk
 {

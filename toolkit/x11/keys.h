@@ -6,7 +6,7 @@
 
 #include <string>
 
-union _XEvent;
+union _XEvent; // Xlib's own name. NOLINT(bugprone-reserved-identifier)
 
 namespace zeltk
 {

@@ -15,6 +15,7 @@ namespace x11
 inline std::vector<XRectangle> xRectangles(const std::vector<Box>& boxes)
 {
     std::vector<XRectangle> rects;
+    rects.reserve(boxes.size());
     for (const Box& box : boxes)
         rects.push_back({static_cast<short>(box.x), static_cast<short>(box.y),
                          static_cast<unsigned short>(box.width), static_cast<unsigned short>(box.height)});
