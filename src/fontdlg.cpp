@@ -45,6 +45,7 @@ struct List {
     bool editable;
     const char* widest;
     const char** entries;
+    bool oneByOne; // inserted, else all at once
     const char* slot;
     int editLine;
 };
@@ -52,10 +53,11 @@ struct List {
 enum { listCount = 3 };
 
 const List lists[listCount] = {
-    {"FamilyLabel", "Family", 114, "FamilyEdit", true, "New century schoolbook", Families,
+    {"FamilyLabel", "Family", 114, "FamilyEdit", true, "New century schoolbook", Families, true,
      SLOT(familyActivated(int)), 119},
-    {"SizeLabel", "Size", 128, "SizeEdit", true, "1000", Sizes, SLOT(sizeActivated(int)), 133},
-    {"WeightLabel", "Weight", 140, "WeightEdit", false, "DemiBold", Weights, SLOT(weightActivated(int)), 145},
+    {"SizeLabel", "Size", 128, "SizeEdit", true, "1000", Sizes, false, SLOT(sizeActivated(int)), 133},
+    {"WeightLabel", "Weight", 140, "WeightEdit", false, "DemiBold", Weights, false,
+     SLOT(weightActivated(int)), 145},
 };
 
 // A check box. The line is that of its failure report.
@@ -147,7 +149,12 @@ void ZelFontDlg::addLists()
         edit = new QComboBox(lists[i].editable, this, lists[i].edit);
         checkCreation(edit, ZELKIT_COMBO_BOX_FAILED, sourceFile, lists[i].editLine);
         edit->setGeometry(x, dialogMargin - 8, metrics.width(lists[i].widest) + 32, metrics.height() + 8);
-        edit->insertStrList(lists[i].entries);
+        if (lists[i].oneByOne) {
+            for (const char** entry = lists[i].entries; *entry; ++entry)
+                edit->insertItem(*entry);
+        } else {
+            edit->insertStrList(lists[i].entries);
+        }
         connect(edit, SIGNAL(activated(int)), lists[i].slot);
         x += edit->width() + dialogGap;
     }
