@@ -2,6 +2,7 @@
 #include <qbitmap.h>
 #include <qcursor.h>
 
+#include "tools/shared.h"
 #include "x11/input.h"
 
 namespace x11 = zeltk::x11;
@@ -16,6 +17,14 @@ struct CursorData {
     QBitmap* mask;
     QPoint hotSpot;
     x11::XId id; // of a bitmap's cursor, made when it is needed first
+
+    ~CursorData()
+    {
+        if (id)
+            x11::freeCursor(id);
+        delete bitmap;
+        delete mask;
+    }
 };
 
 } // namespace zeltk
@@ -51,17 +60,6 @@ CursorData* newData(int shape)
     return new CursorData{1, shape, nullptr, nullptr, QPoint(-1, -1), 0};
 }
 
-void release(CursorData* data)
-{
-    if (--data->references > 0)
-        return;
-    if (data->id)
-        x11::freeCursor(data->id);
-    delete data->bitmap;
-    delete data->mask;
-    delete data;
-}
-
 } // namespace
 
 QCursor::QCursor() : d(newData(ArrowCursor)) {}
@@ -86,21 +84,16 @@ QCursor::QCursor(const QBitmap& bitmap, const QBitmap& mask, int hotX, int hotY)
     d->hotSpot = QPoint(hotX < 0 ? bitmap.width() / 2 : hotX, hotY < 0 ? bitmap.height() / 2 : hotY);
 }
 
-QCursor::QCursor(const QCursor& other) : Qt(other), d(other.d)
-{
-    ++d->references;
-}
+QCursor::QCursor(const QCursor& other) : Qt(other), d(zeltk::shared(other.d)) {}
 
 QCursor::~QCursor()
 {
-    release(d);
+    zeltk::release(d);
 }
 
 QCursor& QCursor::operator=(const QCursor& other)
 {
-    ++other.d->references;
-    release(d);
-    d = other.d;
+    zeltk::share(d, other.d);
     return *this;
 }
 

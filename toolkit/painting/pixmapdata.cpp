@@ -75,14 +75,11 @@ void copyPixels(const PixmapData* from, PixmapData* to)
                   std::min(from->height, to->height), 0, 0);
 }
 
-void release(PixmapData* data)
+PixmapData::~PixmapData()
 {
-    if (--data->references > 0)
-        return;
-    delete data->mask;
-    x11::freePixmap(data->alpha);
-    x11::recyclePixmap(data->id, data->width, data->height, data->depth);
-    delete data;
+    delete mask;
+    x11::freePixmap(alpha);
+    x11::recyclePixmap(id, width, height, depth);
 }
 
 } // namespace zeltk

@@ -19,6 +19,8 @@ struct PixmapData {
     WId alpha = 0; // 0, or how opaque each pixel is; there is a mask, too, then
     QBitmap* mask = nullptr;
     QPixmap::Optimization optimization = QPixmap::NormalOptim;
+
+    ~PixmapData();
 };
 
 // These three have one owner. Null if there can be no pixmap of that size and depth; depth -1 is the
@@ -31,8 +33,6 @@ PixmapData* newPixmapDataLike(const PixmapData* other, int width, int height);
 PixmapData* newPixmapTwin(const PixmapData* other);
 // As far as both reach.
 void copyPixels(const PixmapData* from, PixmapData* to);
-// One owner less; the last one frees it.
-void release(PixmapData* data);
 int nextPixmapSerial();
 
 struct PixmapAccess {

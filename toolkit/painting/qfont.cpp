@@ -3,6 +3,7 @@
 
 #include "painting/defaultfont.h"
 #include "painting/fontdata.h"
+#include "tools/shared.h"
 
 using zeltk::FontData;
 
@@ -51,9 +52,8 @@ QFont FontAccess::withMask(const QFont& font, int set)
 
 } // namespace zeltk
 
-QFont::QFont() : d(zeltk::FontAccess::data(applicationFont()))
+QFont::QFont() : d(zeltk::shared(zeltk::FontAccess::data(applicationFont())))
 {
-    ++d->references;
     *this = zeltk::FontAccess::withMask(*this, 0);
 }
 
@@ -63,23 +63,16 @@ QFont::QFont(const QString& family, int pointSize, int weight, bool italic)
 {
 }
 
-QFont::QFont(const QFont& other) : Qt(other), d(other.d)
-{
-    ++d->references;
-}
+QFont::QFont(const QFont& other) : Qt(other), d(zeltk::shared(other.d)) {}
 
 QFont::~QFont()
 {
-    if (--d->references == 0)
-        delete d;
+    zeltk::release(d);
 }
 
 QFont& QFont::operator=(const QFont& other)
 {
-    ++other.d->references;
-    if (--d->references == 0)
-        delete d;
-    d = other.d;
+    zeltk::share(d, other.d);
     return *this;
 }
 

@@ -3,6 +3,7 @@
 #include <qpixmap.h>
 
 #include "painting/imagedata.h"
+#include "tools/shared.h"
 
 #include <algorithm>
 #include <new>
@@ -56,23 +57,16 @@ QImage::QImage(const QByteArray& data) : QImage()
     loadFromData(data);
 }
 
-QImage::QImage(const QImage& other) : d(other.d)
-{
-    ++d->references;
-}
+QImage::QImage(const QImage& other) : d(zeltk::shared(other.d)) {}
 
 QImage::~QImage()
 {
-    if (--d->references == 0)
-        delete d;
+    zeltk::release(d);
 }
 
 QImage& QImage::operator=(const QImage& other)
 {
-    ++other.d->references;
-    if (--d->references == 0)
-        delete d;
-    d = other.d;
+    zeltk::share(d, other.d);
     return *this;
 }
 

@@ -2,6 +2,7 @@
 #include <qpalette.h>
 
 #include "painting/defaultpalette.h"
+#include "tools/shared.h"
 
 #include <algorithm>
 
@@ -169,23 +170,16 @@ QPalette::QPalette(const QColorGroup& active, const QColorGroup& disabled, const
 {
 }
 
-QPalette::QPalette(const QPalette& other) : d(other.d)
-{
-    ++d->references;
-}
+QPalette::QPalette(const QPalette& other) : d(zeltk::shared(other.d)) {}
 
 QPalette::~QPalette()
 {
-    if (--d->references == 0)
-        delete d;
+    zeltk::release(d);
 }
 
 QPalette& QPalette::operator=(const QPalette& other)
 {
-    ++other.d->references;
-    if (--d->references == 0)
-        delete d;
-    d = other.d;
+    zeltk::share(d, other.d);
     return *this;
 }
 

@@ -3,6 +3,7 @@
 #include <qpixmap.h>
 
 #include "painting/pixmapdata.h"
+#include "tools/shared.h"
 #include "x11/connection.h"
 #include "x11/draw.h"
 #include "x11/pixmap.h"
@@ -70,9 +71,8 @@ QPixmap::QPixmap(int w, int h, const uchar* data, bool isXbitmap) : QPixmap()
     setData(own);
 }
 
-QPixmap::QPixmap(const QPixmap& other) : QPaintDevice(PixmapDevice), Qt(other), d(other.d)
+QPixmap::QPixmap(const QPixmap& other) : QPaintDevice(PixmapDevice), Qt(other), d(zeltk::shared(other.d))
 {
-    ++d->references;
     hd = d->id;
 }
 
@@ -87,8 +87,7 @@ QPixmap& QPixmap::operator=(const QPixmap& other)
         qWarning("QPixmap::operator=: Cannot assign to pixmap during painting");
         return *this;
     }
-    ++other.d->references;
-    setData(other.d);
+    setData(zeltk::shared(other.d));
     return *this;
 }
 

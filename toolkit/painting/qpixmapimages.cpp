@@ -96,7 +96,7 @@ bool QPixmap::convertFromImage(const QImage& image, ColorMode)
     const bool toBitmap = isQBitmap();
     PixmapData* fresh = zeltk::newPixmapData(image.width(), image.height(), toBitmap ? 1 : -1);
     if (!fresh->id) {
-        zeltk::release(fresh);
+        delete fresh;
         return false;
     }
     fresh->isBitmap = toBitmap;

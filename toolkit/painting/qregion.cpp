@@ -6,6 +6,7 @@
 
 #include "painting/polygonrows.h"
 #include "painting/regiondata.h"
+#include "tools/shared.h"
 #include "x11/pixmap.h"
 
 #include <algorithm>
@@ -21,8 +22,7 @@ namespace
 RegionData* emptyData()
 {
     static RegionData* const data = new RegionData{1, {}};
-    ++data->references;
-    return data;
+    return zeltk::shared(data);
 }
 
 RegionData* newData(zeltk::Bands bands)
@@ -66,25 +66,18 @@ QRegion::QRegion(const QPointArray& polygon, bool winding) : d(newData(zeltk::po
 {
 }
 
-QRegion::QRegion(const QRegion& other) : d(other.d)
-{
-    ++d->references;
-}
+QRegion::QRegion(const QRegion& other) : d(zeltk::shared(other.d)) {}
 
 QRegion::QRegion(RegionData* data) : d(data) {}
 
 QRegion::~QRegion()
 {
-    if (--d->references == 0)
-        delete d;
+    zeltk::release(d);
 }
 
 QRegion& QRegion::operator=(const QRegion& other)
 {
-    ++other.d->references;
-    if (--d->references == 0)
-        delete d;
-    d = other.d;
+    zeltk::share(d, other.d);
     return *this;
 }
 

@@ -1,6 +1,7 @@
 // QString: making, sharing, parts and changes.
 #include <qstring.h>
 
+#include "tools/shared.h"
 #include "tools/stringdata.h"
 #include "tools/unicode.h"
 
@@ -11,6 +12,8 @@
 #include <cstring>
 #include <langinfo.h>
 
+using zeltk::release;
+using zeltk::shared;
 using zeltk::StringData;
 
 namespace
@@ -30,26 +33,12 @@ StringData* newData(std::u16string text)
 
 StringData* dataFromLatin1(const char* text, size_t length)
 {
-    if (!text) {
-        ++nullData()->references;
-        return nullData();
-    }
+    if (!text)
+        return shared(nullData());
     std::u16string result(length, u'\0');
     for (size_t i = 0; i < length; ++i)
         result[i] = static_cast<uchar>(text[i]);
     return newData(std::move(result));
-}
-
-StringData* shared(StringData* data)
-{
-    ++data->references;
-    return data;
-}
-
-void release(StringData* data)
-{
-    if (--data->references == 0)
-        delete data;
 }
 
 size_t lengthOf(const char* text, int length)
@@ -105,9 +94,7 @@ QString::~QString()
 
 QString& QString::operator=(const QString& other)
 {
-    StringData* const theirs = shared(other.d);
-    release(d);
-    d = theirs;
+    zeltk::share(d, other.d);
     return *this;
 }
 
