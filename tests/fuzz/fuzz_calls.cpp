@@ -5,6 +5,7 @@
 #include "nestedsteps.h"
 #include "messages.h"
 #include "saboteur.h"
+#include "witness.h"
 #include "world.h"
 
 #include <qapplication.h>
@@ -45,6 +46,8 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     World world;
+    Witness witness;
+    world.witness = &witness;
     Saboteur saboteur(&world);
     world.saboteur = &saboteur;
     NestedSteps nestedSteps(world);

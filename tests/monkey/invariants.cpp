@@ -1,6 +1,7 @@
 #include "invariants.h"
 
 #include "messages.h"
+#include "witness.h"
 #include "world.h"
 #include "xinput.h"
 
@@ -141,6 +142,8 @@ std::string brokenInvariant(World& world)
             broken = brokenTree(widget);
         if (broken.empty())
             broken = brokenRange(widget);
+        if (broken.empty())
+            broken = world.witness->broken(widget);
     }
     return broken;
 }

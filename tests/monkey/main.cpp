@@ -9,6 +9,7 @@
 #include "saboteur.h"
 #include "shrink.h"
 #include "watchdog.h"
+#include "witness.h"
 #include "world.h"
 #include "xinput.h"
 
@@ -77,6 +78,8 @@ int play(const Options& options)
 {
     EventCounter events;
     World world;
+    Witness witness;
+    world.witness = &witness;
     Saboteur saboteur(&world);
     world.saboteur = &saboteur;
     NestedSteps nestedSteps(world);

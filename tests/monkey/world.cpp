@@ -1,6 +1,7 @@
 #include "world.h"
 
 #include "saboteur.h"
+#include "witness.h"
 
 #include <qapplication.h>
 #include <qwidgetlist.h>
@@ -18,6 +19,7 @@ std::vector<QWidget*> World::widgets()
 void World::add(QWidget* widget)
 {
     m_widgets.push_back(QGuardedPtr<QWidget>(widget));
+    witness->meet(widget);
     saboteur->watch(widget);
 }
 

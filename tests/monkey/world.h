@@ -11,10 +11,12 @@
 #include <vector>
 
 class Saboteur;
+class Witness;
 
 struct World {
     Random random; // of this step
     Saboteur* saboteur = nullptr;
+    Witness* witness = nullptr;
     int depth = 0; // of actions inside actions
 
     // The widgets that the monkey made and nobody has deleted; old ones first.
