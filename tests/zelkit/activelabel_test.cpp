@@ -465,15 +465,19 @@ TEST_F(ActiveLabel, TheFourOrientationsOfLongLabels)
 TEST_F(ActiveLabel, ANewLabelIsUprightWhateverWasInItsMemory)
 {
     alignas(ZelActiveLabel) static unsigned memory[(sizeof(ZelActiveLabel) + 3) / 4];
-    for (const unsigned rest : {1U, 2U, 3U}) {
-        std::fill(std::begin(memory), std::end(memory), rest);
-        ZelActiveLabel* const fresh = new (memory) ZelActiveLabel("Mxg", &window, "fresh");
-        fresh->setGeometry(20, 80, 80, 40);
-        fresh->show();
-        EXPECT_EQ(
-            Pixels::of(fresh).differenceFrom(model(false, false, 0, Qt::AlignLeft | Qt::AlignVCenter, "Mxg")),
-            "");
-        fresh->~ZelActiveLabel();
+    for (const bool withText : {true, false}) {
+        for (const unsigned rest : {1U, 2U, 3U}) {
+            std::fill(std::begin(memory), std::end(memory), rest);
+            ZelActiveLabel* const fresh = withText ? new (memory) ZelActiveLabel("Mxg", &window, "fresh")
+                                                   : new (memory) ZelActiveLabel(&window, "fresh");
+            fresh->setGeometry(20, 80, 80, 40);
+            fresh->setText("Mxg");
+            fresh->show();
+            EXPECT_EQ(Pixels::of(fresh).differenceFrom(
+                          model(false, false, 0, Qt::AlignLeft | Qt::AlignVCenter, "Mxg")),
+                      "");
+            fresh->~ZelActiveLabel();
+        }
     }
 }
 

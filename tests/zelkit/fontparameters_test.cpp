@@ -417,6 +417,17 @@ TEST_F(FontParameters, SlotsReadTheStateOfTheBoxes)
     EXPECT_EQ(values(), "Courier 14 50 ius");
 }
 
+TEST_F(FontParameters, AnEntryThatIsNotThereHasNoSize)
+{
+    for (const int none : {-1, 100, INT_MIN, INT_MAX}) {
+        testMessages().clear();
+        dialog.sizeActivated(none);
+        EXPECT_EQ(sample(), "Courier 14 50 ---") << none;
+        EXPECT_FALSE(testMessages().empty()) << "The toolkit refuses a size of 0";
+    }
+    testMessages().clear();
+}
+
 TEST_F(FontParameters, AnUnknownWeightNameChangesNothing)
 {
     weight->changeItem("bold", 3);
