@@ -4,6 +4,7 @@
 #include <qcombobox.h>
 #include <qfont.h>
 #include <qfontmetrics.h>
+#include <qguardedptr.h>
 #include <qlabel.h>
 
 #include "dialogparts.h"
@@ -192,12 +193,20 @@ void ZelFontDlg::setFontParameters(const char* family, int size, int weight, boo
 {
     // The text may be the one that getFontFamily() returned, which ends with the change of the control.
     const QString familyName = family;
+    const QGuardedPtr<QWidget> alive(this); // who hears of a change may delete the dialog
     familyEdit->setEditText(familyName);
-    setFontSize(size);
-    setFontWeight(weight);
-    setFontItalic(italic);
-    setFontUnderline(underline);
-    setFontStrikeOut(strikeOut);
+    if (alive)
+        setFontSize(size);
+    if (alive)
+        setFontWeight(weight);
+    if (alive)
+        setFontItalic(italic);
+    if (alive)
+        setFontUnderline(underline);
+    if (alive)
+        setFontStrikeOut(strikeOut);
+    if (!alive)
+        return;
 
     QFont font(familyName, shownSize(size), withoutSign(weight), italic);
     font.setUnderline(underline);

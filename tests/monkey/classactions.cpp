@@ -373,7 +373,7 @@ void colorDialog(World& world, QWidget* target)
     Random& r = world.random;
     ZelColorDlg* dialog = static_cast<ZelColorDlg*>(target);
     const int value = r.anyInt();
-    switch (r.below(7)) {
+    switch (r.below(8)) {
     case 0:
         dialog->rEditChanged(value);
         break;
@@ -392,6 +392,10 @@ void colorDialog(World& world, QWidget* target)
     case 5:
         dialog->bScrollChanged(value);
         break;
+    case 6:
+        if (world.depth <= 2)
+            dialog->modal();
+        break;
     default:
         dialog->getColor();
     }
@@ -406,18 +410,42 @@ void colorGroup(World& world, QWidget* target)
         dialog->getColorGroup();
 }
 
+void choose(ZelFontDlg* dialog, int index, int list)
+{
+    switch (list) {
+    case 0:
+        dialog->familyActivated(index);
+        break;
+    case 1:
+        dialog->sizeActivated(index);
+        break;
+    case 2:
+        dialog->weightActivated(index);
+        break;
+    case 3:
+        dialog->italicClicked();
+        break;
+    case 4:
+        dialog->underlineClicked();
+        break;
+    default:
+        dialog->strikeoutClicked();
+    }
+}
+
 void fontDialog(World& world, QWidget* target)
 {
     Random& r = world.random;
     ZelFontDlg* dialog = static_cast<ZelFontDlg*>(target);
     const int number = r.anyInt();
-    switch (r.below(8)) {
+    QCString kept;
+    switch (r.below(9)) {
     case 0:
         dialog->setFontParameters(dialog->getFontFamily(), number, r.anyInt(), r.chance(50), r.chance(50),
                                   r.chance(50));
         break;
     case 1:
-        dialog->setFontFamily(r.chance(50) ? "Helvetica" : nullptr);
+        dialog->setFontFamily(chars(r, kept));
         break;
     case 2:
         dialog->setFontSize(number);
@@ -434,9 +462,12 @@ void fontDialog(World& world, QWidget* target)
     case 6:
         dialog->setFontStrikeOut(r.chance(50));
         break;
-    default:
+    case 7:
         dialog->getFontSize();
         dialog->getFontWeight();
+        break;
+    default:
+        choose(dialog, number, r.below(6));
     }
 }
 

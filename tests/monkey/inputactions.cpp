@@ -22,8 +22,9 @@ int button(World& world)
     return world.random.chance(70) ? 1 : world.random.between(1, 5);
 }
 
-void click(World& world, QWidget* target)
+void click(World& world, QWidget* widget)
 {
+    QWidget* const target = world.partOf(widget);
     const int which = button(world);
     point(world, target);
     drain();
@@ -33,8 +34,9 @@ void click(World& world, QWidget* target)
     xinput::releaseButton(which);
 }
 
-void doubleClick(World& world, QWidget* target)
+void doubleClick(World& world, QWidget* widget)
 {
+    QWidget* const target = world.partOf(widget);
     QApplication::setDoubleClickInterval(1000000);
     point(world, target);
     for (int i = 0; i < 2; ++i) {
@@ -45,8 +47,9 @@ void doubleClick(World& world, QWidget* target)
     QApplication::setDoubleClickInterval(0);
 }
 
-void drag(World& world, QWidget* target)
+void drag(World& world, QWidget* widget)
 {
+    QWidget* const target = world.partOf(widget);
     const int which = button(world);
     const QGuardedPtr<QWidget> alive(target);
     point(world, target);
@@ -63,8 +66,9 @@ void drag(World& world, QWidget* target)
 }
 
 // The button stays down until some later step.
-void holdButton(World& world, QWidget* target)
+void holdButton(World& world, QWidget* widget)
 {
+    QWidget* const target = world.partOf(widget);
     point(world, target);
     xinput::pressButton(button(world));
 }
@@ -102,8 +106,9 @@ void type(World& world, QWidget*)
     }
 }
 
-void typeInto(World& world, QWidget* target)
+void typeInto(World& world, QWidget* widget)
 {
+    QWidget* const target = world.partOf(widget);
     target->setActiveWindow();
     target->setFocus();
     drain();

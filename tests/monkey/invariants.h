@@ -9,6 +9,6 @@ struct World;
 // What is wrong, or an empty text.
 std::string brokenInvariant(World& world);
 // The same for what only the X server knows: places, sizes, parents, what is mapped.
-std::string differenceFromServer(World& world);
+std::string differenceFromServer();
 
 #endif

@@ -66,7 +66,7 @@ bool takeStep(const Options& options, World& world, FakeTime& wallClock, int ste
         std::fprintf(stderr, "%d%s\n", step, world.random.trace.c_str());
     std::string broken = brokenInvariant(world);
     if (broken.empty() && step % 16 == 0 && options.killedAfter == 0)
-        broken = differenceFromServer(world);
+        broken = differenceFromServer();
     if (broken.empty())
         return true;
     std::fprintf(stderr, "%smonkey:%s\nmonkey: BROKEN, %s\n", report.c_str(), world.random.trace.c_str(),

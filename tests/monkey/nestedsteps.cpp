@@ -29,8 +29,19 @@ void NestedSteps::timerEvent(QTimerEvent*)
     QWidget* modal = QApplication::activeModalWidget();
     if (!modal)
         qApp->exit_loop();
-    else if (modal->inherits("QDialog") && m_world.random.chance(50))
+    else
+        end(modal);
+}
+
+// Refuses a dialog, accepts it by its default button, or lets it run without being seen.
+void NestedSteps::end(QWidget* modal)
+{
+    const int way = modal->inherits("QDialog") ? m_world.random.below(3) : 2;
+    QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, '\r', 0, "\r");
+    if (way == 0)
         modal->close();
+    else if (way == 1)
+        QApplication::sendEvent(modal, &enter);
     else
         modal->hide();
 }

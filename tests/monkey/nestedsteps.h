@@ -6,6 +6,7 @@
 
 #include <vector>
 
+class QWidget;
 struct World;
 
 // Takes a few steps in every event loop that a step begins, then closes its dialog.
@@ -18,6 +19,7 @@ protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
+    void end(QWidget* modal);
     World& m_world;
     std::vector<int> m_left; // of each loop; -1: not decided
 };

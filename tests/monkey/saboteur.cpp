@@ -44,7 +44,8 @@ void Saboteur::harm()
         return;
     }
     m_wait = -1;
-    QWidget* const from = dynamic_cast<QWidget*>(const_cast<QObject*>(sender()));
+    // What a dialog is made of dies with the dialog only.
+    QWidget* const from = m_world->ownerOf(dynamic_cast<QWidget*>(const_cast<QObject*>(sender())));
     m_world->note("!");
     switch (from ? m_world->random.below(8) : 7) {
     case 0:

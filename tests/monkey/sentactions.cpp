@@ -26,8 +26,9 @@ QPoint anyPoint(Random& r)
     return QPoint(x, r.anyInt());
 }
 
-void mouse(World& world, QWidget* target)
+void mouse(World& world, QWidget* widget)
 {
+    QWidget* const target = world.partOf(widget);
     static const QEvent::Type types[] = {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
                                          QEvent::MouseButtonDblClick, QEvent::MouseMove};
     static const int buttons[] = {Qt::LeftButton, Qt::LeftButton, Qt::RightButton, Qt::MidButton,
@@ -40,8 +41,9 @@ void mouse(World& world, QWidget* target)
     QApplication::sendEvent(target, &event);
 }
 
-void wheel(World& world, QWidget* target)
+void wheel(World& world, QWidget* widget)
 {
+    QWidget* const target = world.partOf(widget);
     Random& r = world.random;
     const QPoint pos = anyPoint(r);
     const int delta = r.anyInt();
@@ -49,8 +51,9 @@ void wheel(World& world, QWidget* target)
     QApplication::sendEvent(target, &event);
 }
 
-void key(World& world, QWidget* target)
+void key(World& world, QWidget* widget)
 {
+    QWidget* const target = world.partOf(widget);
     Random& r = world.random;
     const int code = r.chance(60) ? Qt::Key_Escape + r.below(0x60) : r.anyInt();
     const int ascii = r.anyInt();
@@ -66,8 +69,9 @@ void plain(World& world, QWidget* target)
     QApplication::sendEvent(target, &event);
 }
 
-void paint(World& world, QWidget* target)
+void paint(World& world, QWidget* widget)
 {
+    QWidget* const target = world.partOf(widget);
     Random& r = world.random;
     const QPoint corner = anyPoint(r);
     const int width = r.anyInt();

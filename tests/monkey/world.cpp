@@ -4,9 +4,20 @@
 #include "witness.h"
 
 #include <qapplication.h>
+#include <qobjectlist.h>
 #include <qwidgetlist.h>
 
 #include <algorithm>
+
+static std::vector<QWidget*> partsOf(QWidget* widget)
+{
+    std::vector<QWidget*> parts;
+    QObjectList* all = widget->queryList("QWidget");
+    for (QObjectListIt it(*all); it.current(); ++it)
+        parts.push_back(static_cast<QWidget*>(it.current()));
+    delete all;
+    return parts;
+}
 
 std::vector<QWidget*> World::widgets()
 {
@@ -21,6 +32,9 @@ void World::add(QWidget* widget)
     m_widgets.push_back(QGuardedPtr<QWidget>(widget));
     witness->meet(widget);
     saboteur->watch(widget);
+    if (widget->inherits("QDialog"))
+        for (QObject* part : partsOf(widget))
+            saboteur->watch(part);
 }
 
 QWidget* World::pick(const char* className)
@@ -32,6 +46,26 @@ QWidget* World::pick(const char* className)
     return fitting.empty()
                ? nullptr
                : fitting[static_cast<std::size_t>(random.below(static_cast<int>(fitting.size())))];
+}
+
+QWidget* World::partOf(QWidget* widget)
+{
+    if (!random.chance(30))
+        return widget;
+    const std::vector<QWidget*> parts = partsOf(widget);
+    if (parts.empty())
+        return widget;
+    QWidget* const part = parts[static_cast<std::size_t>(random.below(static_cast<int>(parts.size())))];
+    note(std::string("part ") + part->className() + " " + part->name());
+    return part;
+}
+
+QWidget* World::ownerOf(QWidget* widget)
+{
+    const std::vector<QWidget*> all = widgets();
+    while (widget && std::find(all.begin(), all.end(), widget) == all.end())
+        widget = widget->parentWidget();
+    return widget;
 }
 
 static const std::vector<Action>& allActions()

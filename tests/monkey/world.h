@@ -24,6 +24,10 @@ struct World {
     void add(QWidget* widget);
     // One that inherits the class, or null.
     QWidget* pick(const char* className = "QWidget");
+    // The widget or, now and then, something inside of it, such as a field of a dialog.
+    QWidget* partOf(QWidget* widget);
+    // The widget, or the nearest one around it that the monkey made; null: there is none.
+    QWidget* ownerOf(QWidget* widget);
     void note(const std::string& text) { random.trace += ' ' + text; }
 
 private:

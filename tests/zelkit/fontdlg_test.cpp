@@ -2,10 +2,13 @@
 #include <fontdlg.h>
 
 #include "dialogs.h"
+#include "perishable.h"
 #include "pixels.h"
+#include "signalrecorder.h"
 
 #include <qcheckbox.h>
 #include <qcombobox.h>
+#include <qguardedptr.h>
 #include <qlabel.h>
 
 #include <X11/keysym.h>
@@ -231,4 +234,25 @@ TEST_F(FontDlg, MayBeDeletedWhileItIsOpen)
     Hands deleting([](QWidget* window) { window->deleteLater(); });
     EXPECT_EQ(other->exec(), QDialog::Rejected);
     EXPECT_EQ(QApplication::activeModalWidget(), static_cast<QWidget*>(nullptr));
+}
+
+TEST_F(FontDlg, MayBeDeletedByWhoHearsOfAChange)
+{
+    const struct {
+        const char* part;
+        const char* signal;
+    } changes[] = {{"FamilyEdit", SIGNAL(textChanged(const QString&))},
+                   {"SizeEdit", SIGNAL(textChanged(const QString&))},
+                   {"ItalicEdit", SIGNAL(toggled(bool))},
+                   {"UnderlineEdit", SIGNAL(toggled(bool))},
+                   {"StrikeOutEdit", SIGNAL(toggled(bool))}};
+    for (const auto& change : changes) {
+        const QGuardedPtr<ZelFontDlg> chooser = new Perishable<ZelFontDlg>;
+        SignalRecorder recorder;
+        recorder.watch(childNamed(chooser, change.part), change.signal);
+        recorder.whenever = [&] { delete static_cast<ZelFontDlg*>(chooser); };
+        chooser->setFontParameters("Times", 24, QFont::Bold, true, true, true);
+        EXPECT_TRUE(chooser.isNull()) << change.part;
+        Graveyard::clear();
+    }
 }
