@@ -25,6 +25,9 @@ public:
     mutable std::unordered_map<char16_t, GlyphBox> boxes;
 };
 
+// The face that the pattern describes, which owns it from now on. Without a face, null, the pattern is gone.
+XftFont* openPattern(FcPattern* pattern);
+
 // Whether the font lacks the character, so that a box is drawn in its place.
 bool isBoxed(const Font* font, char16_t c);
 

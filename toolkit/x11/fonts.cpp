@@ -14,6 +14,14 @@ namespace zeltk
 namespace x11
 {
 
+XftFont* openPattern(FcPattern* pattern)
+{
+    XftFont* face = XftFontOpenPattern(display(), pattern);
+    if (!face)
+        FcPatternDestroy(pattern);
+    return face;
+}
+
 namespace
 {
 
@@ -55,7 +63,7 @@ XftFont* openFace(const FontRequest& request, int pixelSize)
     FcResult result;
     FcPattern* match = XftFontMatch(display(), screen(), pattern, &result);
     FcPatternDestroy(pattern);
-    return match ? XftFontOpenPattern(display(), match) : nullptr;
+    return match ? openPattern(match) : nullptr;
 }
 
 std::string propertyOf(const Font* font, const char* property)

@@ -93,7 +93,7 @@ XftFont* openTurned(XftFont* upright, const LetterMatrix& matrix)
     }
     FcPatternDel(pattern, FC_MATRIX);
     FcPatternAddMatrix(pattern, FC_MATRIX, &turned);
-    return XftFontOpenPattern(display(), pattern);
+    return openPattern(pattern);
 }
 
 // The faces for turned letters that were used last. Programs turn by few angles.
