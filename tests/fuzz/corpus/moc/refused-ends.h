@@ -1,0 +1,1 @@
+class A : B ; void f() { class C { Q_OBJECT }; } } template <class T> template <int n> union U {};
