@@ -25,4 +25,8 @@ private:
     FastClock& operator=(const FastClock&);
 };
 
+// While clocks move by themselves: the one that only grows is ahead by so many seconds more from now on. Any
+// thread may call it.
+void skipSeconds(int seconds);
+
 #endif

@@ -1,13 +1,14 @@
 // Other programs that are dead, slow, or lie: nothing that they send does harm.
 #include "messages.h"
 #include "printers.h"
+#include "selectionowner.h"
 #include "signalrecorder.h"
 #include "waiting.h"
 #include "xinput.h"
 
 #include <gtest/gtest.h>
 #include <qapplication.h>
-#include <qclipboard.h>
+#include <qlineedit.h>
 #include <qpushbutton.h>
 
 #include <X11/Xatom.h>
@@ -15,93 +16,8 @@
 
 #include <atomic>
 #include <cstring>
-#include <functional>
-#include <poll.h>
 #include <random>
 #include <string>
-#include <thread>
-#include <vector>
-
-namespace
-{
-
-// Owns the clipboard and answers the first question for UTF-8 in its own way, in a thread of its own.
-class Owner
-{
-public:
-    typedef std::function<void(Owner&, const XSelectionRequestEvent&)> Answer;
-
-    explicit Owner(const Answer& answer) : m_display(XOpenDisplay(nullptr)), m_answer(answer)
-    {
-        m_window = XCreateSimpleWindow(m_display, DefaultRootWindow(m_display), 0, 0, 1, 1, 0, 0, 0);
-        XSetSelectionOwner(m_display, atom("CLIPBOARD"), m_window, CurrentTime);
-        XSync(m_display, False);
-        m_thread = std::thread([this] { run(); });
-    }
-    ~Owner()
-    {
-        m_end = true;
-        m_thread.join();
-        close();
-    }
-
-    Atom atom(const char* name) { return XInternAtom(m_display, name, False); }
-    void set(const XSelectionRequestEvent& r, Atom type, int format, const std::string& bytes)
-    {
-        XChangeProperty(m_display, r.requestor, r.property, type, format, PropModeReplace,
-                        reinterpret_cast<const unsigned char*>(bytes.data()),
-                        static_cast<int>(bytes.size()) / (format == 32 ? static_cast<int>(sizeof(long)) : 1));
-    }
-    void notify(const XSelectionRequestEvent& r)
-    {
-        XEvent reply;
-        std::memset(&reply, 0, sizeof reply);
-        reply.xselection.type = SelectionNotify;
-        reply.xselection.requestor = r.requestor;
-        reply.xselection.selection = r.selection;
-        reply.xselection.target = r.target;
-        reply.xselection.property = r.property;
-        reply.xselection.time = r.time;
-        XSendEvent(m_display, r.requestor, False, 0, &reply);
-        XFlush(m_display);
-    }
-    void close()
-    {
-        if (m_display)
-            XCloseDisplay(m_display);
-        m_display = nullptr;
-    }
-
-private:
-    void run()
-    {
-        while (!m_end && m_display) {
-            pollfd server = {ConnectionNumber(m_display), POLLIN, 0};
-            poll(&server, 1, 10);
-            while (m_display && XPending(m_display)) {
-                XEvent event;
-                XNextEvent(m_display, &event);
-                if (event.type == SelectionRequest)
-                    m_answer(*this, event.xselectionrequest);
-            }
-        }
-    }
-
-    Display* m_display;
-    Window m_window;
-    Answer m_answer;
-    std::atomic<bool> m_end{false};
-    std::thread m_thread;
-};
-
-QString textFrom(const Owner::Answer& answer)
-{
-    Owner owner(answer);
-    settle();
-    return QApplication::clipboard()->text(QClipboard::Clipboard);
-}
-
-} // namespace
 
 TEST(HostileOwner, WhoNeverAnswersIsAskedOnceOnly)
 {
@@ -129,10 +45,18 @@ TEST(HostileOwner, WhoDiesWhenAskedHasNoText)
 TEST(HostileOwner, WhoAnnouncesPiecesAndDiesHasNoText)
 {
     EXPECT_TRUE(textFrom([](Owner& owner, const XSelectionRequestEvent& r) {
-                    const long size = -1;
-                    owner.set(r, owner.atom("INCR"), 32,
-                              std::string(reinterpret_cast<const char*>(&size), sizeof size));
-                    owner.notify(r);
+                    owner.announcePieces(r);
+                    owner.close();
+                }).isNull());
+}
+
+TEST(HostileOwner, WhoDiesAfterAPieceHasNoText)
+{
+    EXPECT_TRUE(textFrom([](Owner& owner, const XSelectionRequestEvent& r) {
+                    owner.announcePieces(r);
+                    owner.awaitTaking(r);
+                    owner.set(r, owner.atom("UTF8_STRING"), 8, "a piece");
+                    owner.awaitTaking(r);
                     owner.close();
                 }).isNull());
 }
@@ -173,14 +97,28 @@ TEST(HostileOwner, AHugePropertyIsReadWhole)
                            }).length());
 }
 
-// Whatever another program sends to a window, and whatever it writes into the properties there, the window
-// goes on working.
+// Larger than any request can be.
+TEST(HostileOwner, APropertyThatGrewIsReadWhole)
+{
+    const std::string part(3000000, 'x');
+    EXPECT_EQ(8 * part.size(), textFrom([&](Owner& owner, const XSelectionRequestEvent& r) {
+                                   for (int i = 0; i < 8; ++i)
+                                       owner.set(r, owner.atom("UTF8_STRING"), 8, part, PropModeAppend);
+                                   owner.notify(r);
+                               }).length());
+}
+
+// Whatever another program sends to a window, about whichever window, and whatever it writes into the
+// properties there, the window goes on working.
 TEST(HostileSender, EventsAndPropertiesOfAnyKindDoNoHarm)
 {
     QWidget window(nullptr, "window");
     window.setGeometry(100, 100, 200, 100);
     QPushButton button("Press", &window);
     button.setGeometry(20, 20, 100, 40);
+    QLineEdit edit("text", &window);
+    edit.setGeometry(20, 70, 100, 24);
+    edit.setFocus();
     showAndWait(&window);
     SignalRecorder recorder;
     recorder.watch(&button, SIGNAL(clicked()));
@@ -189,10 +127,8 @@ TEST(HostileSender, EventsAndPropertiesOfAnyKindDoNoHarm)
     static const char* const names[] = {"WM_PROTOCOLS",       "WM_STATE",        "_NET_WM_STATE",
                                         "_NET_FRAME_EXTENTS", "WM_HINTS",        "WM_NORMAL_HINTS",
                                         "XdndAware",          "WM_CLIENT_LEADER"};
-    static const int types[] = {ConfigureNotify, ReparentNotify,  ClientMessage,    PropertyNotify,
-                                SelectionNotify, SelectionClear,  SelectionRequest, MappingNotify,
-                                GraphicsExpose,  NoExpose,        VisibilityNotify, KeymapNotify,
-                                GravityNotify,   CirculateNotify, ColormapNotify};
+    const Window windows[] = {window.winId(), button.winId(), edit.winId(), DefaultRootWindow(display),
+                              None,           0x1fffffff};
     for (int i = 0; i < 3000; ++i) {
         const Atom name = XInternAtom(display, names[random() % 8], False);
         long numbers[20];
@@ -201,9 +137,9 @@ TEST(HostileSender, EventsAndPropertiesOfAnyKindDoNoHarm)
         XEvent event;
         std::memset(&event, 0, sizeof event);
         std::memcpy(&event, numbers, sizeof numbers);
-        event.type = types[random() % 15];
+        event.type = KeyPress + static_cast<int>(random() % (MappingNotify - KeyPress + 1));
         event.xany.display = display;
-        event.xany.window = window.winId();
+        event.xany.window = windows[random() % 6];
         event.xany.send_event = True;
         if (event.type == ClientMessage) {
             event.xclient.message_type = name;
@@ -231,6 +167,27 @@ TEST(HostileSender, EventsAndPropertiesOfAnyKindDoNoHarm)
     settle();
     xinput::click(&button, 10, 10);
     EXPECT_TRUE(waitFor([&] { return recorder.count() > 0; }));
+}
+
+// The input method has such keys for what it composed.
+TEST(HostileSender, AKeyWithoutACodeIsNoKey)
+{
+    QLineEdit edit("text", nullptr);
+    showAndActivate(&edit);
+    edit.setFocus();
+    XEvent event;
+    std::memset(&event, 0, sizeof event);
+    event.xkey.type = KeyPress;
+    event.xkey.window = edit.winId();
+    Display* display = XOpenDisplay(nullptr);
+    for (int i = 0; i < 2; ++i)
+        XSendEvent(display, edit.winId(), False, 0, &event);
+    XSync(display, False);
+    XCloseDisplay(display);
+    settle();
+    EXPECT_EQ(QString("text"), edit.text());
+    xinput::typeText("x");
+    EXPECT_TRUE(waitFor([&] { return edit.text() == "textx"; }));
 }
 
 // Writing to the lost connection comes before anything is read from it.

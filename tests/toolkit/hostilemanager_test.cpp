@@ -102,6 +102,15 @@ public:
         XReparentWindow(m_display, window.winId(), m_root, 20, 20);
         done();
     }
+    // The program hears of the frame when both are gone.
+    void destroyInFrame(const QWidget& window)
+    {
+        settle();
+        const Window around = XCreateSimpleWindow(m_display, m_root, 50, 50, 400, 300, 0, 0, 0);
+        XReparentWindow(m_display, window.winId(), around, 5, 5);
+        XDestroyWindow(m_display, around);
+        done();
+    }
     void takeFocus()
     {
         settle();
@@ -352,6 +361,33 @@ TEST_F(HostileManager, SendsMessagesWithoutSense)
     manager.message(window->winId(), "WM_PROTOCOLS", "WM_DELETE_WINDOW", 8);
     manager.done();
     EXPECT_TRUE(window->isVisible());
+    expectSane(&manager);
+}
+
+// Another window of the program goes on; the one that is gone can be used and destroyed as ever.
+TEST_F(HostileManager, DestroysTheWindowWithItsFrame)
+{
+    Manager manager;
+    QWidget lost(nullptr, "lost");
+    lost.setGeometry(50, 50, 200, 100);
+    QPushButton inside("Inside", &lost);
+    lost.show();
+    manager.map(lost);
+    inside.setFocus();
+    manager.destroyInFrame(lost);
+    inside.setText("Another");
+    lost.setCaption("caption");
+    lost.resize(300, 200);
+    lost.frameGeometry();
+    lost.setActiveWindow();
+    inside.setFocus();
+    lost.hide();
+    settle();
+    lost.show();
+    lost.showMaximized();
+    settle();
+    manager.takeWishes();
+    window->show();
     expectSane(&manager);
 }
 

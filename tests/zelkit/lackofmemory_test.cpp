@@ -1,20 +1,5 @@
 // What the widgets do in operation when one of the library's own allocations fails.
-#include <colordlg.h>
-#include <colorgroupdlg.h>
-#include <fontdlg.h>
-#include <zelactivelabel.h>
-#include <zelactivelabel2.h>
-#include <zelcolorbutton.h>
-#include <zelcombobox.h>
-#include <zeledge.h>
-#include <zelframe.h>
-#include <zelgraph.h>
-#include <zellabel.h>
-#include <zellineedit.h>
-#include <zellineeditint.h>
-#include <zelpushbutton.h>
-#include <zelpushbutton2.h>
-
+#include "allclasses.h"
 #include "failedcreation.h"
 #include "messages.h"
 #include "pixels.h"
@@ -26,6 +11,7 @@
 #include <qtimer.h>
 
 #include <functional>
+#include <memory>
 #include <string>
 
 namespace
@@ -73,6 +59,17 @@ void use(QWidget* widget)
 }
 
 } // namespace
+
+// The children of the dialogs are all that is.
+TEST_F(LackOfMemory, ConstructorsOfWidgetsAllocateNothing)
+{
+    for (const NamedClass& each : allClasses()) {
+        const std::unique_ptr<QWidget> made(each.make(&window));
+        if (made->inherits("QDialog"))
+            continue;
+        EXPECT_EQ(0, failEach([&] { delete each.make(&window); })) << each.name;
+    }
+}
 
 TEST_F(LackOfMemory, WidgetsInUseAllocateNothingButHistories)
 {

@@ -48,11 +48,17 @@ void followFocus(const XFocusChangeEvent& focus)
 
 } // namespace
 
+// What the input method has composed comes back as a key without a code, as the very next event. Another
+// program's key without a code has it look for a text that is not there, and that ends in a crash.
 bool filteredByInputMethod(XEvent* event)
 {
+    static bool composes = false;
     if (event->type == XFocusIn || event->type == XFocusOut)
         followFocus(event->xfocus);
-    return XFilterEvent(event, XNone) != 0;
+    const bool isForged =
+        event->type == XKeyPress && event->xkey.keycode == 0 && event->xkey.send_event && !composes;
+    composes = !isForged && XFilterEvent(event, XNone) != 0;
+    return composes || isForged;
 }
 
 KeyMeaning meaningOf(XEvent* event)

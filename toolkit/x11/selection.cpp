@@ -31,6 +31,8 @@ struct Transfer {
     Atom type;
     std::string text;
     size_t sent;
+    long eventsBefore; // that this program wanted of the receiver's window, which may be its own
+    Milliseconds lastPiece;
 };
 
 Owned primary;
@@ -74,17 +76,36 @@ void setBytes(Window receiver, Atom property, Atom type, const char* bytes, size
                     reinterpret_cast<const unsigned char*>(bytes), static_cast<int>(count));
 }
 
+// Receivers may die, or give up and ask again.
+void forgetStaleTransfers(Window receiver, Atom property)
+{
+    const Milliseconds now = clockMilliseconds();
+    transfers.remove_if([&](const Transfer& t) {
+        return (t.receiver == receiver && t.property == property) || now - t.lastPiece > patience;
+    });
+}
+
 void sendText(Window receiver, Atom property, Atom type, const std::string& text)
 {
     if (text.size() <= pieceSize) {
         setBytes(receiver, property, type, text.data(), text.size());
         return;
     }
+    forgetStaleTransfers(receiver, property);
+    XWindowAttributes its;
+    if (!XGetWindowAttributes(display(), receiver, &its))
+        return;
     const long size = static_cast<long>(text.size());
-    XSelectInput(display(), receiver, PropertyChangeMask);
+    XSelectInput(display(), receiver, its.your_event_mask | PropertyChangeMask);
     XChangeProperty(display(), receiver, property, atom("INCR"), 32, PropModeReplace,
                     reinterpret_cast<const unsigned char*>(&size), 1);
-    transfers.push_back({receiver, property, type, text, 0});
+    transfers.push_back({receiver, property, type, text, 0, its.your_event_mask, clockMilliseconds()});
+}
+
+bool isReceiver(Window any)
+{
+    return std::any_of(transfers.begin(), transfers.end(),
+                       [any](const Transfer& t) { return t.receiver == any; });
 }
 
 // An empty piece ends the transfer.
@@ -98,11 +119,13 @@ void sendNextPiece(const XPropertyEvent& deleted)
     const size_t size = std::min(pieceSize, place->text.size() - place->sent);
     setBytes(place->receiver, place->property, place->type, place->text.data() + place->sent, size);
     place->sent += size;
+    place->lastPiece = clockMilliseconds();
     if (size > 0)
         return;
-    if (place->receiver != window)
-        XSelectInput(display(), place->receiver, NoEventMask);
+    const long eventsBefore = place->eventsBefore;
     transfers.erase(place);
+    if (!isReceiver(deleted.window))
+        XSelectInput(display(), deleted.window, eventsBefore);
 }
 
 bool answer(const XSelectionRequestEvent& request, const Owned& owned, Atom property)
@@ -156,9 +179,7 @@ void takeAway(const XSelectionClearEvent& clear)
 
 bool isForReceiver(const XPropertyEvent& property)
 {
-    return property.state == PropertyDelete && property.window != window &&
-           std::any_of(transfers.begin(), transfers.end(),
-                       [&property](const Transfer& t) { return t.receiver == property.window; });
+    return property.state == PropertyDelete && isReceiver(property.window);
 }
 
 int isRequest(Display*, XEvent* event, XPointer)

@@ -10,15 +10,20 @@ namespace zeltk
 namespace x11
 {
 
-// The invisible window that owns selections and receives them.
+typedef long long Milliseconds;
+
+// How long the other side may take for an answer, and for each piece of a long text.
+constexpr Milliseconds patience = 5000;
+
+// The invisible window that owns selections.
 Window selectionWindow();
 Atom selectionAtom(Selection selection);
 // Asks the owner of the selection for its text.
 bool requestText(Atom selection, std::string* utf8);
 // Waits a little while for news from the server; false when the deadline is over, in milliseconds of a clock
 // that only grows.
-bool waitForNews(long deadline);
-long clockMilliseconds();
+bool waitForNews(Milliseconds deadline);
+Milliseconds clockMilliseconds();
 
 // Answers requests and goes on with transfers while the program waits for a selection itself.
 void serveRequests();

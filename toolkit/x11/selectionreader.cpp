@@ -14,8 +14,26 @@ namespace x11
 namespace
 {
 
-// How long an owner may take for its answer, and for each piece of a long one.
-constexpr long patience = 5000;
+// How long all pieces of a text may take together: an owner could go on for ever.
+constexpr Milliseconds piecesPatience = 60000;
+
+// The invisible window that receives. Who answers a question too late finds it destroyed.
+Window receiver = 0;
+
+Window receiverWindow()
+{
+    if (!receiver) {
+        receiver = XCreateSimpleWindow(display(), rootWindow(), -10, -10, 1, 1, 0, 0, 0);
+        XSelectInput(display(), receiver, PropertyChangeMask);
+    }
+    return receiver;
+}
+
+void destroyReceiver()
+{
+    XDestroyWindow(display(), receiver);
+    receiver = 0;
+}
 
 struct Property {
     Atom type = 0;
@@ -32,7 +50,7 @@ Property takeProperty(Atom name)
         int format = 0;
         unsigned long count = 0;
         unsigned char* data = nullptr;
-        if (XGetWindowProperty(display(), selectionWindow(), name, offset, 65536, False, AnyPropertyType,
+        if (XGetWindowProperty(display(), receiverWindow(), name, offset, 65536, False, AnyPropertyType,
                                &result.type, &format, &count, &rest, &data) != Success)
             return Property();
         if (format == 8)
@@ -43,25 +61,25 @@ Property takeProperty(Atom name)
         if (data)
             XFree(data);
     }
-    XDeleteProperty(display(), selectionWindow(), name);
+    XDeleteProperty(display(), receiverWindow(), name);
     return result;
 }
 
 int isAnswer(Display*, XEvent* event, XPointer)
 {
-    return event->type == SelectionNotify && event->xselection.requestor == selectionWindow();
+    return event->type == SelectionNotify && event->xselection.requestor == receiverWindow();
 }
 
 int isNewPiece(Display*, XEvent* event, XPointer name)
 {
-    return event->type == PropertyNotify && event->xproperty.window == selectionWindow() &&
+    return event->type == PropertyNotify && event->xproperty.window == receiverWindow() &&
            event->xproperty.state == PropertyNewValue &&
            event->xproperty.atom == *reinterpret_cast<Atom*>(name);
 }
 
 bool waitFor(XEvent* event, int (*condition)(Display*, XEvent*, XPointer), Atom* argument)
 {
-    const long deadline = clockMilliseconds() + patience;
+    const Milliseconds deadline = clockMilliseconds() + patience;
     do {
         serveRequests();
         if (XCheckIfEvent(display(), event, condition, reinterpret_cast<XPointer>(argument)))
@@ -73,8 +91,9 @@ bool waitFor(XEvent* event, int (*condition)(Display*, XEvent*, XPointer), Atom*
 bool readPieces(Atom name, Property* whole)
 {
     whole->bytes.clear();
+    const Milliseconds deadline = clockMilliseconds() + piecesPatience;
     XEvent event;
-    while (waitFor(&event, isNewPiece, &name)) {
+    while (clockMilliseconds() < deadline && waitFor(&event, isNewPiece, &name)) {
         const Property piece = takeProperty(name);
         if (piece.bytes.empty())
             return true;
@@ -89,8 +108,8 @@ enum class Answer { Text, NoText, Silence };
 Answer request(Atom selection, Atom target, std::string* utf8)
 {
     Atom name = atom("_ZELTK_SELECTION");
-    XDeleteProperty(display(), selectionWindow(), name);
-    XConvertSelection(display(), selection, target, name, selectionWindow(), CurrentTime);
+    XDeleteProperty(display(), receiverWindow(), name);
+    XConvertSelection(display(), selection, target, name, receiverWindow(), CurrentTime);
     XEvent event;
     if (!waitFor(&event, isAnswer, nullptr))
         return Answer::Silence;
@@ -110,22 +129,22 @@ Answer request(Atom selection, Atom target, std::string* utf8)
 
 } // namespace
 
-long clockMilliseconds()
+Milliseconds clockMilliseconds()
 {
     using namespace std::chrono;
-    return static_cast<long>(duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count());
+    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
 }
 
 // Sending may read too, so that news are there already and the descriptor stays silent; no wait is long
 // therefore.
-bool waitForNews(long deadline)
+bool waitForNews(Milliseconds deadline)
 {
-    const long rest = deadline - clockMilliseconds();
+    const Milliseconds rest = deadline - clockMilliseconds();
     if (rest <= 0)
         return false;
     XFlush(display());
     pollfd server = {connectionFd(), POLLIN, 0};
-    poll(&server, 1, static_cast<int>(std::min(rest, 10L)));
+    poll(&server, 1, static_cast<int>(std::min(rest, Milliseconds(10))));
     XEventsQueued(display(), QueuedAfterReading);
     return true;
 }
@@ -135,9 +154,11 @@ bool requestText(Atom selection, std::string* utf8)
 {
     if (XGetSelectionOwner(display(), selection) == XNone)
         return false;
-    const Answer answer = request(selection, atom("UTF8_STRING"), utf8);
+    Answer answer = request(selection, atom("UTF8_STRING"), utf8);
     if (answer == Answer::NoText)
-        return request(selection, XA_STRING, utf8) == Answer::Text;
+        answer = request(selection, XA_STRING, utf8);
+    if (answer == Answer::Silence)
+        destroyReceiver();
     return answer == Answer::Text;
 }
 
