@@ -44,6 +44,23 @@ QColor anyColor(Random& r)
     return QColor(r.below(256), r.below(256), r.below(256));
 }
 
+// Windows of all kinds, and what the flags change while a widget is made and painted.
+Qt::WFlags anyFlags(Random& r)
+{
+    static const Qt::WFlags flags[] = {0,
+                                       0,
+                                       0,
+                                       0,
+                                       Qt::WType_TopLevel,
+                                       Qt::WType_Popup,
+                                       Qt::WStyle_Customize | Qt::WStyle_NoBorder,
+                                       Qt::WStyle_Customize | Qt::WStyle_Tool,
+                                       Qt::WDestructiveClose,
+                                       Qt::WRepaintNoErase,
+                                       Qt::WResizeNoErase | Qt::WStaticContents};
+    return flags[r.below(sizeof flags / sizeof flags[0])];
+}
+
 // The constructors that take a text take null, too.
 const char* anyChars(Random& r)
 {
@@ -58,11 +75,11 @@ const Kind kinds[] = {
     {true, [](Random&, QWidget* p, const char* n) -> QWidget* { return new ZelActiveLabel2(p, n); }},
     {false,
      [](Random& r, QWidget* p, const char* n) -> QWidget* {
-         return new ZelLabel(r.text(), p, n, r.chance(70), 0);
+         return new ZelLabel(r.text(), p, n, r.chance(70), anyFlags(r));
      }},
     {false,
      [](Random& r, QWidget* p, const char* n) -> QWidget* {
-         return new ZelLabel(anyChars(r), p, n, r.chance(70), 0);
+         return new ZelLabel(anyChars(r), p, n, r.chance(70), anyFlags(r));
      }},
     {false, [](Random&, QWidget* p, const char* n) -> QWidget* { return new ZelColorButton(p, n); }},
     {false,
@@ -70,7 +87,7 @@ const Kind kinds[] = {
     {false,
      [](Random& r, QWidget* p, const char* n) -> QWidget* { return new ZelPushButton2(anyChars(r), p, n); }},
     {false, [](Random&, QWidget* p, const char* n) -> QWidget* { return new ZelPushButton2(p, n); }},
-    {false, [](Random&, QWidget* p, const char* n) -> QWidget* { return new ZelFrame(p, n, 0); }},
+    {false, [](Random& r, QWidget* p, const char* n) -> QWidget* { return new ZelFrame(p, n, anyFlags(r)); }},
     {false, [](Random&, QWidget* p, const char* n) -> QWidget* { return new ZelEdge(p, n); }},
     {false, [](Random&, QWidget* p, const char* n) -> QWidget* { return new ZelLineEdit(p, n); }},
     {false,
@@ -81,18 +98,24 @@ const Kind kinds[] = {
          return new ZelLineEditInt(p, n, r.anyInt(), r.anyInt());
      }},
     {false,
-     [](Random& r, QWidget* p, const char* n) -> QWidget* { return new ZelGraph(p, n, r.chance(70), 0); }},
+     [](Random& r, QWidget* p, const char* n) -> QWidget* {
+         return new ZelGraph(p, n, r.chance(70), anyFlags(r));
+     }},
     {false,
-     [](Random& r, QWidget* p, const char* n) -> QWidget* { return new ZelGraph(p, n, r.chance(70), 0); }},
+     [](Random& r, QWidget* p, const char* n) -> QWidget* {
+         return new ZelGraph(p, n, r.chance(70), anyFlags(r));
+     }},
     {false,
      [](Random& r, QWidget* p, const char* n) -> QWidget* { return new ZelColorDlg(anyColor(r), p, n); }},
     {false, [](Random&, QWidget* p, const char* n) -> QWidget* { return new ZelColorDlg(p, n); }},
     {false,
      [](Random& r, QWidget* p, const char* n) -> QWidget* {
-         return new ZelColorGroupDlg(p, n, r.chance(30), 0);
+         return new ZelColorGroupDlg(p, n, r.chance(30), anyFlags(r));
      }},
     {false,
-     [](Random& r, QWidget* p, const char* n) -> QWidget* { return new ZelFontDlg(p, n, r.chance(30), 0); }},
+     [](Random& r, QWidget* p, const char* n) -> QWidget* {
+         return new ZelFontDlg(p, n, r.chance(30), anyFlags(r));
+     }},
     {false, [](Random&, QWidget* p, const char* n) -> QWidget* { return new QWidget(p, n); }},
     {false, [](Random& r, QWidget* p, const char* n) -> QWidget* { return new QLabel(r.text(), p, n); }},
     {false, [](Random& r, QWidget* p, const char* n) -> QWidget* { return new QCheckBox(r.text(), p, n); }},
