@@ -465,6 +465,9 @@ void fontDialog(World& world, QWidget* target)
     case 7:
         dialog->getFontSize();
         dialog->getFontWeight();
+        dialog->beFontItalic();
+        dialog->beFontUnderline();
+        dialog->beFontStrikeOut();
         break;
     default:
         choose(dialog, number, r.below(6));
