@@ -17,11 +17,24 @@ void Saboteur::watch(QObject* object)
             connect(object, (std::string("2") + name).c_str(), this, SLOT(harm()));
 }
 
-// A widget whose destructor runs is no longer what it was made as. Nobody may delete it once more.
+// A widget whose destructor runs is no longer what it was made as.
 bool Saboteur::isDying(QWidget* widget) const
 {
     const auto found = m_types.find(widget);
     return found != m_types.end() && found->second != typeid(*widget);
+}
+
+// Nobody may delete a widget once more, neither by way of one that it is in.
+bool Saboteur::mayDelete(QWidget* widget) const
+{
+    for (QWidget* dying : m_world->widgets()) {
+        if (!isDying(dying))
+            continue;
+        for (QWidget* outer = dying; outer; outer = outer->parentWidget())
+            if (outer == widget)
+                return false;
+    }
+    return true;
 }
 
 static QWidget* victimOf(World& world, QWidget* sender)
@@ -52,7 +65,7 @@ void Saboteur::harm()
     case 1:
     case 2:
         m_world->note("delete");
-        if (QWidget* victim = victimOf(*m_world, from); !isDying(victim))
+        if (QWidget* victim = victimOf(*m_world, from); mayDelete(victim))
             delete victim;
         break;
     case 3:

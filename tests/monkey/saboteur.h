@@ -27,6 +27,7 @@ public slots:
 
 private:
     bool isDying(QWidget* widget) const;
+    bool mayDelete(QWidget* widget) const;
     World* m_world;
     std::map<const QObject*, std::type_index> m_types;
     int m_wait;

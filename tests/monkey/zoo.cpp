@@ -27,7 +27,13 @@
 namespace
 {
 
-// While its destructor hides it, it is a QDialog only.
+// While their destructors hide them, they are a QWidget and a QDialog only.
+class PlainWidget : public QWidget
+{
+public:
+    using QWidget::QWidget;
+};
+
 class PlainDialog : public QDialog
 {
 public:
@@ -116,7 +122,7 @@ const Kind kinds[] = {
      [](Random& r, QWidget* p, const char* n) -> QWidget* {
          return new ZelFontDlg(p, n, r.chance(30), anyFlags(r));
      }},
-    {false, [](Random&, QWidget* p, const char* n) -> QWidget* { return new QWidget(p, n); }},
+    {false, [](Random&, QWidget* p, const char* n) -> QWidget* { return new PlainWidget(p, n); }},
     {false, [](Random& r, QWidget* p, const char* n) -> QWidget* { return new QLabel(r.text(), p, n); }},
     {false, [](Random& r, QWidget* p, const char* n) -> QWidget* { return new QCheckBox(r.text(), p, n); }},
     {false, [](Random&, QWidget* p, const char* n) -> QWidget* { return new QListBox(p, n); }},
