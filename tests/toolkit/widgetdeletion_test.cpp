@@ -7,9 +7,11 @@
 
 #include <gtest/gtest.h>
 #include <qapplication.h>
+#include <qcombobox.h>
 #include <qfont.h>
 #include <qguardedptr.h>
 #include <qlayout.h>
+#include <qlineedit.h>
 #include <qpalette.h>
 #include <qpixmap.h>
 
@@ -149,6 +151,30 @@ TEST_F(WidgetDeletion, WhileItIsHidden)
 {
     check(showAll, [](Family& family) { family.window->hide(); });
     check(showAll, [](Family& family) { family.outer->hide(); });
+}
+
+// Those of its children that are not hidden yet go without a window; a field with the focus has nothing to
+// paint.
+TEST_F(WidgetDeletion, BetweenTwoOfItsChildrenThatAreHidden)
+{
+    Death death;
+    QGuardedPtr<QWidget> window = new Perishable<QWidget>;
+    new Mortal(&death, window);
+    QComboBox* const combo = new QComboBox(true, window);
+    combo->setGeometry(20, 20, 100, 30);
+    combo->setEditText("selected");
+    showAndWait(window);
+    window->setActiveWindow();
+    combo->setFocus();
+    ASSERT_TRUE(waitFor([&] { return combo->lineEdit()->hasFocus(); }));
+    combo->lineEdit()->selectAll();
+    death.victim = window;
+    death.left = 1;
+    window->hide();
+    EXPECT_TRUE(window.isNull());
+    Graveyard::clear();
+    QApplication::syncX();
+    EXPECT_EQ("", takeMessages());
 }
 
 TEST_F(WidgetDeletion, WhileItIsClosed)

@@ -212,6 +212,7 @@ QWidget::~QWidget()
         clearFocus();
     if (isVisible() && !isDesktop())
         hide();
+    zeltk::hideChildren(this); // of a widget that dies while it is hidden, some are still visible
     if (w->isFocusProxy)
         forgetFocusProxy(this);
     zeltk::widgetDestroyed(this);

@@ -121,6 +121,8 @@ void describeWindow(QWidget* window);
 void applySizeHints(QWidget* window);
 void applyWindowHints(QWidget* window);
 
+// Everything inside of a widget that is hidden becomes invisible with it.
+void hideChildren(QWidget* widget);
 // Unmaps the window, which the window manager then no longer knows.
 void hideWindow(QWidget* widget);
 // A popup or modal widget keeps input from nobody any more.

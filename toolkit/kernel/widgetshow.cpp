@@ -55,22 +55,6 @@ void showChildren(QWidget* widget)
             child->show();
 }
 
-// Windows inside a hidden one need not be unmapped; they reappear with it.
-void hideChildren(QWidget* widget)
-{
-    for (const QGuardedPtr<QWidget>& child : zeltk::guardedChildren(widget)) {
-        if (!child || child->isTopLevel() || !child->isVisible())
-            continue;
-        WidgetAccess::clearState(child, Qt::WState_Visible);
-        hideChildren(child);
-        if (child)
-            zeltk::widgetHidden(child);
-        QHideEvent event;
-        if (child)
-            QApplication::sendEvent(child, &event);
-    }
-}
-
 void sendPlain(QWidget* widget, QEvent::Type type)
 {
     QEvent event(type);
@@ -104,6 +88,22 @@ void showWindow(QWidget* widget)
 
 namespace zeltk
 {
+
+// Windows inside a hidden one need not be unmapped; they reappear with it.
+void hideChildren(QWidget* widget)
+{
+    for (const QGuardedPtr<QWidget>& child : guardedChildren(widget)) {
+        if (!child || child->isTopLevel() || !child->isVisible())
+            continue;
+        WidgetAccess::clearState(child, Qt::WState_Visible);
+        hideChildren(child);
+        if (child)
+            widgetHidden(child);
+        QHideEvent event;
+        if (child)
+            QApplication::sendEvent(child, &event);
+    }
+}
 
 void hideWindow(QWidget* widget)
 {
@@ -181,7 +181,7 @@ void QWidget::hide()
     QHideEvent event;
     QApplication::sendEvent(this, &event);
     if (alive)
-        hideChildren(this);
+        zeltk::hideChildren(this);
     if (alive)
         zeltk::hidePopupsOf(this);
     if (alive && !isTopLevel() && parentWidget())
